@@ -1,0 +1,116 @@
+#include "QUVARDCR1C.h"
+
+#include <bit>
+#include <cstdint>
+#include <cwchar>
+#include <memory>
+
+namespace {
+
+// Each thread's wide buffer. A buffer above this size (4 MiB) goes when the next text fits below
+// it.
+constexpr std::size_t kKeptUnits = std::size_t{1} << 20;
+constexpr std::size_t kFirstUnits = 256;
+
+class ThreadBuffer {
+ public:
+  wchar_t* withRoomFor(std::size_t units) {
+    if (units > capacity_ || (capacity_ > kKeptUnits && units <= kKeptUnits)) replace(units);
+    return units_.get();
+  }
+
+ private:
+  void replace(std::size_t units) {
+    const std::size_t room = units <= kFirstUnits ? kFirstUnits : std::bit_ceil(units);
+    // The old one goes first, so that both never stand in memory at once.
+    units_.reset();
+    capacity_ = 0;
+    units_.reset(new wchar_t[room]);
+    capacity_ = room;
+  }
+
+  std::unique_ptr<wchar_t[]> units_;
+  std::size_t capacity_ = 0;
+};
+
+constexpr std::uint32_t kLastBmp = 0xFFFF;
+constexpr std::uint32_t kLastCodePoint = 0x10FFFF;
+constexpr char16_t kReplacementCharacter = 0xFFFD;
+
+std::uint32_t valueOf(wchar_t unit) { return static_cast<std::uint32_t>(unit); }
+
+bool isSupplementary(std::uint32_t value) { return value > kLastBmp && value <= kLastCodePoint; }
+
+// The general way out, for text that holds a unit beyond 16 bits.
+BSTR allocatedWithPairs(const wchar_t* units, std::size_t length) {
+  std::size_t pairs = 0;
+  for (std::size_t i = 0; i < length; ++i) pairs += isSupplementary(valueOf(units[i])) ? 1 : 0;
+
+  const BSTR result = new char16_t[length + pairs + 1];
+  char16_t* out = result;
+  for (std::size_t i = 0; i < length; ++i) {
+    const std::uint32_t value = valueOf(units[i]);
+    if (isSupplementary(value)) {
+      *out++ = static_cast<char16_t>(0xD800 + ((value - 0x10000) >> 10));
+      *out++ = static_cast<char16_t>(0xDC00 + ((value - 0x10000) & 0x3FF));
+    } else {
+      *out++ = value > kLastCodePoint ? kReplacementCharacter : static_cast<char16_t>(value);
+    }
+  }
+  *out = 0;
+  return result;
+}
+
+}  // namespace
+
+BSTR SysAllocString16(const char16_t* units) {
+  const std::size_t length = units == nullptr ? 0 : wcslen16(units);
+  const BSTR result = new char16_t[length + 1];
+  std::char_traits<char16_t>::copy(result, units, length);
+  result[length] = 0;
+  return result;
+}
+
+std::size_t wcslen16(const char16_t* units) {
+  std::size_t length = 0;
+  // A unit may only be read once the one before it is known not to end the text, so this loop
+  // cannot be vectorised; unrolled it takes half a cycle for a unit.
+#pragma GCC unroll 8
+  while (units[length] != 0) ++length;
+  return length;
+}
+
+void releaseBSTR(BSTR handle) { delete[] handle; }
+
+wchar_t* CW162W32(BSTR handle) {
+  static thread_local ThreadBuffer buffer;
+  const std::size_t length = wcslen16(handle);
+  wchar_t* const wide = buffer.withRoomFor(length + 1);
+  for (std::size_t i = 0; i < length; ++i) wide[i] = static_cast<wchar_t>(handle[i]);
+  wide[length] = 0;
+  return wide;
+}
+
+BSTR SysAllocString2(const wchar_t* units) {
+  const std::size_t length = std::wcslen(units);
+  std::unique_ptr<char16_t[]> result(new char16_t[length + 1]);
+  char16_t* const out = result.get();
+  std::uint32_t seen = 0;
+  for (std::size_t i = 0; i < length; ++i) {
+    seen |= valueOf(units[i]);
+    out[i] = static_cast<char16_t>(units[i]);
+  }
+  if (seen > kLastBmp) {
+    result.reset();
+    return allocatedWithPairs(units, length);
+  }
+  out[length] = 0;
+  return result.release();
+}
+
+std::wstring convertBSTRtoWstring(BSTR& handle) {
+  if (handle == nullptr) return {};
+  return std::wstring(handle, handle + wcslen16(handle));
+}
+
+BSTR convertWstringToBSTR(std::wstring text) { return SysAllocString2(text.c_str()); }

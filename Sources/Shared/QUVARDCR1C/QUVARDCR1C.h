@@ -1,0 +1,88 @@
+/// @file
+/// Host strings: how they are made, read and released.
+///
+/// A host string (`BSTR`) is one pointer to the first unit of a run of 16-bit units that ends at
+/// its first zero unit. Nothing in front of that pointer is ever read, so any zero-terminated run
+/// of 16-bit units may stand where a service takes a host string.
+///
+/// Units pass one for one. On the way in each 16-bit unit becomes one wide unit of the same value,
+/// and no surrogate pair is folded, so positions and lengths mean the same on both sides. On the
+/// way out a unit up to 0xFFFF, a surrogate included, goes out unchanged; a unit from 0x10000 to
+/// 0x10FFFF becomes its surrogate pair; a unit above that (or negative) becomes U+FFFD.
+///
+/// Every service may be called on any number of threads at once. Those that allocate may throw
+/// `std::bad_alloc` and nothing else; none of them leaks when it does.
+#ifndef QUVARDCR1C_H
+#define QUVARDCR1C_H
+
+#include <stddef.h>
+
+#define QUVARDCR1C_API __attribute__((visibility("default")))
+
+#ifdef __cplusplus
+#include <string>
+typedef char16_t* BSTR;
+typedef char16_t QUVARDUnit16;
+extern "C" {
+#else
+#include <stdint.h>
+typedef uint_least16_t* BSTR;
+typedef uint_least16_t QUVARDUnit16;
+#endif
+
+/// A new host string with the units at @p units, which end at their first zero unit.
+///
+/// @param units  zero-terminated 16-bit units; null gives a new empty string
+/// @return       new host string, which the caller owns and gives to releaseBSTR()
+/// @throws std::bad_alloc
+QUVARDCR1C_API BSTR SysAllocString16(const QUVARDUnit16* units);
+
+/// The number of units in front of the terminating zero unit. Does not throw.
+///
+/// @param units  zero-terminated 16-bit units, not null
+QUVARDCR1C_API size_t wcslen16(const QUVARDUnit16* units);
+
+/// Releases a host string that a service or a host routine made; null is allowed. Does not throw.
+QUVARDCR1C_API void releaseBSTR(BSTR handle);
+
+/// The units of @p handle as wide units, zero-terminated.
+///
+/// @param handle  host string, not null
+/// @return        buffer of the calling thread, which its next call reuses; never released by a
+/// caller
+/// @throws std::bad_alloc
+QUVARDCR1C_API wchar_t* CW162W32(BSTR handle);
+
+/// A new host string with the wide units at @p units.
+///
+/// @param units  zero-terminated wide units, not null
+/// @return       new host string, which the caller owns and gives to releaseBSTR()
+/// @throws std::bad_alloc
+QUVARDCR1C_API BSTR SysAllocString2(const wchar_t* units);
+
+#ifdef __cplusplus
+#ifdef __clang__
+#pragma clang diagnostic push
+// C linkage fixes the symbol's name; only C++ callers see these two.
+#pragma clang diagnostic ignored "-Wreturn-type-c-linkage"
+#endif
+
+/// The text of the host string that @p handle holds.
+///
+/// @param handle  variable that holds a host string; null gives the empty string
+/// @throws std::bad_alloc
+QUVARDCR1C_API std::wstring convertBSTRtoWstring(BSTR& handle);
+
+/// A new host string with the units of @p text up to its first zero unit.
+///
+/// @return new host string, which the caller owns and gives to releaseBSTR()
+/// @throws std::bad_alloc
+QUVARDCR1C_API BSTR convertWstringToBSTR(std::wstring text);
+
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
+}
+#endif
+
+#endif

@@ -1,0 +1,55 @@
+# The compile options of every target of this project stand here and nowhere else.
+
+add_library(QUVARDCompileOptions INTERFACE)
+target_compile_features(QUVARDCompileOptions INTERFACE cxx_std_20)
+target_compile_options(QUVARDCompileOptions INTERFACE
+  -fvisibility=hidden
+  # The order of evaluation is part of what the numerics promise: no fused multiply-add, and pow
+  # stays pow (clang for macOS would call a relative of it that rounds differently).
+  -ffp-contract=off
+  -fno-builtin-pow
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
+
+# A shared library NAME.dll that exports the names in its lists and nothing else.
+#
+#   quvard_shared_library(NAME EXPORTS list...)
+#
+# A list has one symbol a line, as the platform's compiler spells it without the leading underscore
+# of macOS.
+function(quvard_shared_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXPORTS")
+  set(symbols "")
+  foreach(list IN LISTS arg_EXPORTS)
+    file(STRINGS "${list}" lines REGEX "^[^#]")
+    list(APPEND symbols ${lines})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${list}")
+  endforeach()
+
+  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:QUVARDCompileOptions>)
+  set_target_properties(${name} PROPERTIES
+    PREFIX "" SUFFIX ".dll"
+    BUILD_WITH_INSTALL_RPATH ON)
+
+  if(APPLE)
+    list(TRANSFORM symbols PREPEND "_")
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}.exports")
+    list(JOIN symbols "\n" content)
+    set(content "${content}\n")
+    set_target_properties(${name} PROPERTIES
+      INSTALL_RPATH "@loader_path" INSTALL_NAME_DIR "@loader_path" BUILD_WITH_INSTALL_NAME_DIR ON)
+    target_link_options(${name} PRIVATE "LINKER:-exported_symbols_list,${script}")
+  else()
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
+    list(JOIN symbols ";\n    " content)
+    set(content "{\n  global:\n    ${content};\n  local:\n    *;\n};\n")
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    # A host may have functions named Min or StrLeft of its own: calls inside the library bind to
+    # the library, as they do on macOS anyway.
+    target_compile_options(${name} PRIVATE -fno-semantic-interposition)
+    target_link_options(${name} PRIVATE
+      "LINKER:--version-script,${script}" "LINKER:-Bsymbolic-functions")
+  endif()
+  file(CONFIGURE OUTPUT "${script}" CONTENT "${content}" @ONLY)
+  set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${script}")
+endfunction()
