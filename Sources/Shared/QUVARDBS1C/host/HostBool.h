@@ -1,0 +1,17 @@
+// The two tests of a HostBool, which reads its low 16 bits alone: compilers differ on who extends a
+// 16-bit argument.
+#ifndef QUVARDBS1C_HOST_HOSTBOOL_H
+#define QUVARDBS1C_HOST_HOSTBOOL_H
+
+#include "QUVARDBS1C.h"
+
+namespace quvard {
+
+inline constexpr HostBool kHostTrue = -1;
+inline constexpr HostBool kHostFalse = 0;
+
+inline bool isSet(HostBool flag) { return (flag & 0xFFFF) != 0; }
+
+}  // namespace quvard
+
+#endif

@@ -1,0 +1,31 @@
+// The buffer path across the host boundary: host strings in through convToWstring, a host string
+// out through SysAllocString2. A host routine of this path is one line:
+//
+//   BSTR VB_StrLeft(BSTR s, int32_t n) { return givenOut(callWide(StrLeft, s, n)); }
+#ifndef QUVARDBS1C_HOST_HOSTFRAME_H
+#define QUVARDBS1C_HOST_HOSTFRAME_H
+
+#include <cstdint>
+#include <string>
+#include <tuple>
+
+#include "QUVARDBS1C.h"
+#include "QUVARDCR1C.h"
+
+namespace quvard {
+
+inline std::wstring takenIn(BSTR handle) { return convToWstring(handle); }
+inline std::int32_t takenIn(std::int32_t scalar) { return scalar; }
+
+// Calls a wide routine with the arguments of a host routine. The braces make the conversions run in
+// argument order, which a plain call leaves open.
+template <typename Routine, typename... Arguments>
+auto callWide(Routine routine, Arguments... arguments) {
+  return std::apply(routine, std::tuple{takenIn(arguments)...});
+}
+
+inline BSTR givenOut(const std::wstring& text) { return SysAllocString2(text.c_str()); }
+
+}  // namespace quvard
+
+#endif

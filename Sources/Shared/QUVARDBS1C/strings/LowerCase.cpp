@@ -1,0 +1,7 @@
+#include "QUVARDBS1C.h"
+#include "strings/PlatformCase.h"
+
+std::wstring StrLCase(std::wstring s) {
+  for (wchar_t& unit : s) unit = quvard::caseMapped(unit, quvard::LetterCase::lower);
+  return s;
+}
