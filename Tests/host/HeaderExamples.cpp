@@ -1,0 +1,12 @@
+// The examples of the chief header, taken from its text when the tests are built.
+#include <gtest/gtest.h>
+
+#include "support/HostStrings.h"
+
+namespace {
+
+TEST(HeaderExamples, Hold) {
+#include "HeaderExamples.inc"
+}
+
+}  // namespace

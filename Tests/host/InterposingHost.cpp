@@ -1,0 +1,69 @@
+// A host program whose own functions bear names of the library and are found first by the loader.
+// The library's calls of these names must still reach the library.
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <string>
+
+#include "QUVARDBS1C.h"
+#include "QUVARDCR1C.h"
+
+namespace {
+int strayCalls = 0;
+
+std::wstring stray() {
+  ++strayCalls;
+  return L"the host's own";
+}
+}  // namespace
+
+std::wstring convToWstring(BSTR) { return stray(); }
+std::wstring StrLeft(std::wstring, int32_t) { return stray(); }
+std::wstring StrRight(std::wstring, int32_t) { return stray(); }
+std::wstring StrConcat(std::wstring, std::wstring, std::wstring, std::wstring, std::wstring,
+                       std::wstring) {
+  return stray();
+}
+std::wstring StrLRTrim(std::wstring) { return stray(); }
+std::wstring LocalAN(std::wstring, std::wstring, std::wstring, HostBool, HostBool, HostBool) {
+  return stray();
+}
+std::wstring LowerFirst(std::wstring, std::wstring, HostBool) { return stray(); }
+std::wstring UpperFirst(std::wstring) { return stray(); }
+
+namespace {
+
+void* library = nullptr;
+
+template <typename Function>
+Function* routine(const char* name, Function*) {
+  auto* const found = reinterpret_cast<Function*>(dlsym(library, name));
+  if (found == nullptr) std::fprintf(stderr, "%s is missing\n", name);
+  return found;
+}
+
+#define ROUTINE(name) routine(#name, &name)
+
+bool isText(BSTR result, const char16_t* expected) {
+  const bool equal = std::u16string(result) == expected;
+  ROUTINE(releaseBSTR)(result);
+  return equal;
+}
+
+}  // namespace
+
+int main(int, char** arguments) {
+  library = dlopen(arguments[1], RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) {
+    std::fprintf(stderr, "%s\n", dlerror());
+    return 2;
+  }
+  char16_t adjective[] = u"linear", noun[] = u"Model", language[] = u"US", blanks[] = u" a ";
+  const bool right =
+      isText(ROUTINE(VB_LocalAN)(adjective, noun, language), u"Linear model") &&
+      isText(ROUTINE(VB_LocalAN2)(adjective, noun, language, -1, -1, 0), u"linear model") &&
+      isText(ROUTINE(VB_StrLRTrim)(blanks), u"a") && isText(ROUTINE(VB_StrLeft)(noun, 2), u"Mo") &&
+      isText(ROUTINE(VB_StrRight)(noun, 2), u"el");
+  std::printf("%s, %d stray calls\n", right ? "right" : "wrong", strayCalls);
+  return right && strayCalls == 0 ? 0 : 1;
+}
