@@ -160,6 +160,155 @@ QUVARDBS1C_API BSTR VB_StrRTrim(BSTR s);
 QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 
 /// @}
+/// @name Removal (strings/)
+/// @{
+
+#ifdef __cplusplus
+/// @p s after a removal that goes on until the whole of @p chars occurs nowhere: each step takes
+/// the first unit out of the leftmost occurrence. With a @p chars of one unit, every such unit
+/// goes. Linear in @p s.
+///
+/// @param chars  what to look for; empty: @p s comes back unchanged
+/// @b Example: `RemoveChar(L"xaby", L"ab") == L"xby"`
+QUVARDBS1C_API std::wstring RemoveChar(std::wstring s, std::wstring chars);
+
+/// @p s without any colon, and then without blanks at either end.
+///
+/// @b Example: `RemoveColon(L" a: :b ") == L"a b"`
+QUVARDBS1C_API std::wstring RemoveColon(std::wstring s);
+
+/// @p s without any semicolon, and then without blanks at either end.
+///
+/// @b Example: `RemoveSemicolon(L" a;b; ") == L"ab"`
+QUVARDBS1C_API std::wstring RemoveSemicolon(std::wstring s);
+
+/// The digits 0 to 9 of @p s, in their order.
+///
+/// @b Example: `RemoveNonNumericChar(L"1,234.50") == L"123450"`
+QUVARDBS1C_API std::wstring RemoveNonNumericChar(std::wstring s);
+#endif
+
+/// Host form of RemoveChar().
+///
+/// @return new host string
+/// @b Example: `VB_RemoveChar(B(u"a-b-c"), B(u"-")) == B(u"abc")`
+QUVARDBS1C_API BSTR VB_RemoveChar(BSTR s, BSTR chars);
+
+/// Host form of RemoveNonNumericChar().
+///
+/// @return new host string
+/// @b Example: `VB_RemoveNonNumericChar(B(u"-1.5")) == B(u"15")`
+QUVARDBS1C_API BSTR VB_RemoveNonNumericChar(BSTR s);
+
+/// @p s without any colon. Unlike RemoveColon() it leaves blanks at the ends in place.
+///
+/// @return new host string; the null handle for the null handle
+/// @b Example: `VB_RemoveColon(B(u" a:b ")) == B(u" ab ")`
+QUVARDBS1C_API BSTR VB_RemoveColon(BSTR s);
+
+/// @}
+/// @name Search and counting (strings/)
+/// @{
+
+#ifdef __cplusplus
+/// The number of occurrences of @p pattern in @p text, from left to right and without overlap. Both
+/// end at their first zero unit.
+///
+/// @return 0 if either is empty
+/// @b Example: `cChrCount(L"aaaaa", L"aa") == 2`
+QUVARDBS1C_API int32_t cChrCount(std::wstring text, std::wstring pattern);
+#endif
+
+/// Whether @p text and @p chars have a unit in common; host form of CommonChar().
+///
+/// @return -1 or 0
+/// @b Example: `VB_CommonChar(B(u"abc"), B(u"xyzb")) == -1`
+QUVARDBS1C_API HostBool VB_CommonChar(BSTR text, BSTR chars);
+
+/// Host form of cChrCount().
+///
+/// @return 0 if either is empty or null
+/// @b Example: `ChrCount(B(u"a,b,c"), B(u",")) == 2`
+QUVARDBS1C_API int32_t ChrCount(BSTR text, BSTR pattern);
+
+/// @}
+/// @name Slices by position and delimiter (strings/)
+///
+/// Positions count from 1. Delimiters are of one unit each: of two that are both not empty, one of
+/// two units or more gives the empty string. An empty delimiter is found at the start of the text.
+/// @{
+
+#ifdef __cplusplus
+/// What lies between the first @p opening and the first @p closing behind it, both left out.
+///
+/// @return empty if either is not found; with an empty @p opening, the slice starts at the second
+/// unit
+/// @b Example: `cStrBetweenChrAndChr(L"a(b)c", L"(", L")") == L"b"`
+QUVARDBS1C_API std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring opening,
+                                                 std::wstring closing);
+#endif
+
+/// The units at positions @p from to @p to, both included.
+///
+/// @param from  1 or more
+/// @param to    not beyond the end of @p text
+/// @return      new host string; empty for any other positions, and if @p to lies before @p from
+/// @b Example: `StrFromTo(B(u"abcdef"), 2, 5) == B(u"bcde")`
+QUVARDBS1C_API BSTR StrFromTo(BSTR text, int32_t from, int32_t to);
+
+/// The units strictly between positions @p from and @p to.
+///
+/// @param from  1 or more
+/// @param to    not beyond the end of @p text
+/// @return      new host string; empty for any other positions, and if @p to is not behind @p from
+/// @b Example: `StrBetween(B(u"abcdef"), 2, 5) == B(u"cd")`
+QUVARDBS1C_API BSTR StrBetween(BSTR text, int32_t from, int32_t to);
+
+/// The text from the first @p opening to the first @p closing, both included. @p closing is
+/// searched from the start of the text.
+///
+/// @return new host string; empty if either is not found or @p closing comes first
+/// @b Example: `StrFromChrToChr(B(u"a(b)c"), B(u"("), B(u")")) == B(u"(b)")`
+QUVARDBS1C_API BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing);
+
+/// Host form of cStrBetweenChrAndChr().
+///
+/// @return new host string
+/// @b Example: `StrBetweenChrAndChr(B(u"a/b/c"), B(u"/"), B(u"/")) == B(u"b")`
+QUVARDBS1C_API BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing);
+
+/// @}
+/// @name Replacement (strings/)
+///
+/// Occurrences are handled from left to right and do not overlap. What a replacement puts in is not
+/// searched again. An empty pattern has no occurrences. Linear in text plus result.
+/// @{
+
+/// @p text with every occurrence of @p pattern replaced.
+///
+/// With a pattern and a replacement of exactly one unit each, **the units of @p text itself are
+/// changed** too, and must not be in use on another thread; this is the one routine that writes to
+/// an argument.
+///
+/// @param text         host string
+/// @param pattern      what to look for; null: nothing is done, and @p text itself is the result
+/// @param replacement  what to put in its place; null and empty: nothing
+/// @return             new host string; but **the handle @p text itself**, not a copy, if @p text
+/// or
+///                     @p pattern is null
+/// @b Example: `VB_Replace(B(u"a-b-c"), B(u"-"), B(u"--")) == B(u"a--b--c")`
+QUVARDBS1C_API BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement);
+
+/// @p text with every occurrence of @p pattern1 replaced, and then, in that result, every
+/// occurrence of
+/// @p pattern2. Null handles are empty strings. No argument changes.
+///
+/// @return new host string
+/// @b Example: `VB_Replace2(B(u"ab"), B(u"a"), B(u"b"), B(u"b"), B(u"c")) == B(u"cc")`
+QUVARDBS1C_API BSTR VB_Replace2(BSTR text, BSTR pattern1, BSTR replacement1, BSTR pattern2,
+                                BSTR replacement2);
+
+/// @}
 /// @name Phrases of an adjective and a noun (phrases/)
 ///
 /// A language code is one of "ES", "FR", "IT", "PT", "PL", "US", "DE", "JP", "CS", "CN", compared
@@ -226,6 +375,152 @@ QUVARDBS1C_API BSTR VB_LowerFirst(BSTR text, BSTR language, HostBool forceDE);
 QUVARDBS1C_API BSTR VB_UpperFirst(BSTR text);
 
 /// @}
+/// @name Wrapping and inflection (phrases/)
+/// @{
+
+#ifdef __cplusplus
+/// A blank, @p text, a blank.
+///
+/// @b Example: `SpStrSp(L"and") == L" and "`
+QUVARDBS1C_API std::wstring SpStrSp(std::wstring text);
+
+/// @p text in parentheses.
+///
+/// @b Example: `PStrP(L"units") == L"(units)"`
+QUVARDBS1C_API std::wstring PStrP(std::wstring text);
+
+/// @p singular if @p count is less than 2, else @p plural.
+///
+/// @b Example: `SingPlural(L"case", L"cases", 2) == L"cases"`
+QUVARDBS1C_API std::wstring SingPlural(std::wstring singular, std::wstring plural, int32_t count);
+#endif
+
+/// Host form of SpStrSp().
+///
+/// @return new host string
+/// @b Example: `VB_SpStrSp(B(u"and")) == B(u" and ")`
+QUVARDBS1C_API BSTR VB_SpStrSp(BSTR text);
+
+/// Host form of PStrP().
+///
+/// @return new host string
+/// @b Example: `VB_PStrP(B(u"units")) == B(u"(units)")`
+QUVARDBS1C_API BSTR VB_PStrP(BSTR text);
+
+/// @p text in square brackets.
+///
+/// @return new host string
+/// @b Example: `VB_BStrB(B(u"1")) == B(u"[1]")`
+QUVARDBS1C_API BSTR VB_BStrB(BSTR text);
+
+/// A copy of @p singular if @p count is less than 2, else of @p plural. The other one is not read.
+///
+/// @return new host string
+/// @b Example: `VB_SingPlural(B(u"case"), nullptr, 0) == B(u"case")`
+QUVARDBS1C_API BSTR VB_SingPlural(BSTR singular, BSTR plural, int32_t count);
+
+/// @}
+/// @name Markup tokens (phrases/)
+/// @{
+
+#ifdef __cplusplus
+/// @p text with its markup tokens turned into the characters that they stand for: `<BR>` into a
+/// line feed, `<QM>` into a double quotation mark, `<CM>` into a comma. Case counts.
+///
+/// @b Example: `QUVARDHTMLProcessor(L"a<CM> b<BR>") == L"a, b\n"`
+QUVARDBS1C_API std::wstring QUVARDHTMLProcessor(std::wstring text);
+#endif
+
+/// Host form of QUVARDHTMLProcessor().
+///
+/// @return new host string
+/// @b Example: `VB_QUVARDHTMLProcessor(B(u"<QM>a<QM>")) == B(u"\"a\"")`
+QUVARDBS1C_API BSTR VB_QUVARDHTMLProcessor(BSTR text);
+
+/// @}
+/// @name Number patterns (formats/)
+///
+/// A pattern is in the host's notation: "0" a digit that is always printed, "#" a digit that is
+/// printed only when significant, "." the decimal point, "E-" and "E+" scientific notation (with
+/// the exponent's sign only when it is negative, and always), followed by the exponent's digits.
+/// @{
+
+#ifdef __cplusplus
+/// The pattern with a number of decimals.
+///
+/// @param decimals  0 or below: the pattern "0"; there is no upper limit but memory
+/// @b Example: `DecimalFormat(2) == L"0.00"`
+QUVARDBS1C_API std::wstring DecimalFormat(int32_t decimals);
+
+/// Assigns one and the same decimal pattern to the elements of an array.
+///
+/// @param formats         the first of at least @p count strings
+/// @param count           number of elements; below 1 nothing happens
+/// @param digits          digits of the pattern, the one before the point included
+/// @param digitsOverride  if it is not exactly -1, stands in the place of @p digits
+/// @b Example: `[] { std::wstring f[2]; SetFormat(f, 2, 4, -1); return f[1]; }() == L"0.000"`
+QUVARDBS1C_API void SetFormat(std::wstring* formats, int32_t count, int32_t digits,
+                              int32_t digitsOverride);
+
+/// The pattern that shows the decimals a value has, up to 19: "0" for a value within 1e-12 of a
+/// whole number (infinities and NaN count as whole), otherwise "0." and 19 times "#". If the value
+/// times 1e19 is not whole by the same test, "E-#" follows.
+///
+/// @b Example: `OutputFormat(3.0) == L"0"`
+QUVARDBS1C_API std::wstring OutputFormat(double value);
+
+/// The pattern with a chosen number of decimals, in scientific notation where that is asked for and
+/// the value is small for these decimals, or large.
+///
+/// A number x is whole here if it is less than 1e-12 away from x truncated to a 32-bit integer. The
+/// mantissa is "0" for a whole value, otherwise DecimalFormat(decimals). With e the decimal
+/// logarithm of the magnitude, truncated toward zero, the exponent part is "E-0" if e is below
+/// -decimals ("E-00" from -10 down), "E+0" if e is 5 or more ("E+00" from 10 up), and empty in
+/// between. There is none for a magnitude of 1e-12 or less, for an infinity or for NaN.
+///
+/// @param value         the value that is to be printed
+/// @param decimals      decimals of the pattern; also the limit for small values
+/// @param useExponent   set: there may be an exponent part
+/// @param keepDecimals  matters only with an exponent part. Set: the mantissa stays as told. Not
+/// set: it
+///                      becomes "0" if pow(10, -e) times the value is whole
+/// @b Example: `OptimalFormat(123456.5, 2, -1, -1) == L"0.00E+0"`
+QUVARDBS1C_API std::wstring OptimalFormat(double value, int32_t decimals, HostBool useExponent,
+                                          HostBool keepDecimals);
+#endif
+
+/// Host form of DecimalFormat().
+///
+/// @return new host string
+/// @b Example: `Cpp_DecimalFormat(2) == B(u"0.00")`
+QUVARDBS1C_API BSTR Cpp_DecimalFormat(int32_t decimals);
+
+/// Host form of SetFormat(): writes a new host string to each of @p count elements. What an element
+/// held is neither read nor released. If memory runs out, the elements in front hold their new
+/// strings.
+///
+/// @param formats         the first of at least @p count handles
+/// @param count           number of elements; below 1 nothing happens
+/// @param digits          digits of the pattern, the one before the point included
+/// @param digitsOverride  if it is not exactly -1, stands in the place of @p digits
+/// @b Example: `[] { BSTR f[1]; VB_SetFormat(f, 1, 4, 2); return f[0]; }() == B(u"0.0")`
+QUVARDBS1C_API void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits,
+                                 int32_t digitsOverride);
+
+/// Host form of OutputFormat().
+///
+/// @return new host string
+/// @b Example: `VB_OutputFormat(0.5) == B(u"0.###################")`
+QUVARDBS1C_API BSTR VB_OutputFormat(double value);
+
+/// Host form of OptimalFormat().
+///
+/// @return new host string
+/// @b Example: `VB_OptimalFormat(2.5, 3, 0, 0) == B(u"0.000")`
+QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool useExponent,
+                                     HostBool keepDecimals);
+
+/// @}
 
 #ifdef __cplusplus
 }
@@ -233,5 +528,31 @@ QUVARDBS1C_API BSTR VB_UpperFirst(BSTR text);
 #pragma clang diagnostic pop
 #endif
 #endif
+
+/// @name Routines of C++ linkage, whose symbols encode their argument types (strings/)
+/// @{
+
+#ifdef __cplusplus
+/// Whether @p text and @p chars have a unit in common.
+///
+/// @return -1 or 0
+/// @b Example: `CommonChar(L"abc", L"xyzb") == -1`
+QUVARDBS1C_API HostBool CommonChar(std::wstring text, std::wstring chars);
+
+/// @p text with every occurrence of @p pattern replaced by @p replacement.
+///
+/// @b Example: `Replace(L"a,b,c", std::wstring(L","), std::wstring(L", ")) == L"a, b, c"`
+QUVARDBS1C_API std::wstring Replace(std::wstring text, std::wstring pattern,
+                                    std::wstring replacement);
+
+/// The same with a pattern and a replacement that end at their first zero unit; neither may be
+/// null.
+///
+/// @b Example: `Replace(L"aab", L"ab", L"b") == L"ab"`
+QUVARDBS1C_API std::wstring Replace(std::wstring text, const wchar_t* pattern,
+                                    const wchar_t* replacement);
+#endif
+
+/// @}
 
 #endif

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 #include "QUVARDBS1C.h"
@@ -25,6 +26,14 @@ auto callWide(Routine routine, Arguments... arguments) {
 }
 
 inline BSTR givenOut(const std::wstring& text) { return SysAllocString2(text.c_str()); }
+
+// The units of a host string as they lie there; none for the null handle.
+inline std::u16string_view unitsOf(BSTR handle) {
+  if (handle == nullptr) return {};
+  return {handle, wcslen16(handle)};
+}
+
+inline std::wstring widened(std::u16string_view units) { return {units.begin(), units.end()}; }
 
 }  // namespace quvard
 

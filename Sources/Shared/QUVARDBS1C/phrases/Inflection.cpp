@@ -1,0 +1,19 @@
+#include <cstdint>
+#include <utility>
+
+#include "QUVARDBS1C.h"
+#include "QUVARDCR1C.h"
+
+namespace {
+
+bool isSingular(std::int32_t count) { return count < 2; }
+
+}  // namespace
+
+std::wstring SingPlural(std::wstring singular, std::wstring plural, std::int32_t count) {
+  return std::move(isSingular(count) ? singular : plural);
+}
+
+BSTR VB_SingPlural(BSTR singular, BSTR plural, std::int32_t count) {
+  return SysAllocString16(isSingular(count) ? singular : plural);
+}

@@ -1,0 +1,75 @@
+#include <algorithm>
+#include <bitset>
+#include <cstdint>
+#include <string_view>
+
+#include "host/HostBool.h"
+#include "host/HostFrame.h"
+#include "strings/PatternSearch.h"
+
+using quvard::callWide;
+
+namespace {
+
+// Up to this many units are looked for one by one; more of them go into a set.
+constexpr std::size_t kFewUnits = 8;
+
+class UnitSet {
+ public:
+  explicit UnitSet(std::wstring_view units) {
+    for (const wchar_t unit : units) {
+      if (isNarrow(unit)) {
+        narrow_.set(static_cast<std::size_t>(unit));
+      } else {
+        beyond_.push_back(unit);
+      }
+    }
+    std::sort(beyond_.begin(), beyond_.end());
+  }
+
+  bool holds(wchar_t unit) const {
+    return isNarrow(unit) ? narrow_.test(static_cast<std::size_t>(unit))
+                          : std::binary_search(beyond_.begin(), beyond_.end(), unit);
+  }
+
+ private:
+  static bool isNarrow(wchar_t unit) { return static_cast<std::uint32_t>(unit) <= 0xFFFF; }
+
+  std::bitset<0x10000> narrow_;
+  std::wstring beyond_;
+};
+
+bool haveCommonUnit(std::wstring_view text, std::wstring_view chars) {
+  if (chars.size() <= kFewUnits) return text.find_first_of(chars) != text.npos;
+  const UnitSet set(chars);
+  return std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.holds(unit); });
+}
+
+}  // namespace
+
+HostBool CommonChar(std::wstring text, std::wstring chars) {
+  return haveCommonUnit(text, chars) ? quvard::kHostTrue : quvard::kHostFalse;
+}
+
+std::int32_t cChrCount(std::wstring text, std::wstring pattern) {
+  const std::wstring_view searched = text.c_str();
+  const std::wstring_view sought = pattern.c_str();
+  if (sought.empty()) return 0;
+  if (sought.size() == 1) {
+    return static_cast<std::int32_t>(std::count(searched.begin(), searched.end(), sought.front()));
+  }
+  const quvard::PatternSearch<wchar_t> search(sought);
+  std::int32_t count = 0;
+  for (std::size_t found = 0; (found = search.find(searched, found)) != searched.npos;
+       found += sought.size()) {
+    ++count;
+  }
+  return count;
+}
+
+HostBool VB_CommonChar(BSTR text, BSTR chars) { return callWide(CommonChar, text, chars); }
+
+std::int32_t ChrCount(BSTR text, BSTR pattern) {
+  if (text == nullptr || pattern == nullptr) return 0;
+  return callWide(cChrCount, text, pattern);
+}
