@@ -72,12 +72,14 @@ BSTR SysAllocString16(const char16_t* units) {
 }
 
 std::size_t wcslen16(const char16_t* units) {
-  std::size_t length = 0;
-  // A unit may only be read once the one before it is known not to end the text, so this loop
-  // cannot be vectorised; unrolled it takes half a cycle for a unit.
-#pragma GCC unroll 8
-  while (units[length] != 0) ++length;
-  return length;
+  // A unit may only be read once the one in front is known not to end the text, so this cannot be
+  // made wide. In steps of eight, the tests are all that is left.
+  constexpr std::size_t kStep = 8;
+  for (std::size_t start = 0;; start += kStep) {
+    for (std::size_t i = start; i < start + kStep; ++i) {
+      if (units[i] == 0) return i;
+    }
+  }
 }
 
 void releaseBSTR(BSTR handle) { delete[] handle; }

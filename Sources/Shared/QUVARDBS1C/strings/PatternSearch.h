@@ -33,10 +33,22 @@ class PrefixMatcher {
       border_;  // for each prefix, its longest proper prefix that also ends it
 };
 
+// Whether the pattern stands at a position from which it fits into the text.
+template <typename Unit>
+bool standsAt(std::basic_string_view<Unit> text, std::size_t at,
+              std::basic_string_view<Unit> pattern) {
+  std::size_t i = 0;
+  while (i < pattern.size() && text[at + i] == pattern[i]) ++i;
+  return i == pattern.size();
+}
+
 template <typename Unit>
 class PatternSearch {
  public:
   using View = std::basic_string_view<Unit>;
+
+  // A pattern up to this length wastes at most its few units at each position of a text.
+  static constexpr std::size_t kShort = 16;
 
   // The pattern outlives the search. An empty one is found everywhere.
   explicit PatternSearch(View pattern)
@@ -44,7 +56,6 @@ class PatternSearch {
 
   // The position of the first occurrence at or after `from`, or View::npos.
   std::size_t find(View text, std::size_t from) const {
-    // A short pattern wastes at most its few units at each position.
     if (pattern_.size() <= kShort) return text.find(pattern_, from);
     std::uint32_t matched = 0;
     for (std::size_t i = from; i < text.size(); ++i) {
@@ -55,8 +66,6 @@ class PatternSearch {
   }
 
  private:
-  static constexpr std::size_t kShort = 16;
-
   View pattern_;
   PrefixMatcher<Unit> matcher_;
 };

@@ -7,28 +7,18 @@
 
 #include "host/HostFrame.h"
 #include "strings/PatternSearch.h"
+#include "strings/UnitBlocks.h"
 
 using quvard::callWide;
+using quvard::copyKept;
 using quvard::givenOut;
 
 namespace {
 
-// Copies the units that are to stay and returns the end of the copy, which may lie in the units
-// themselves. No branch depends on a unit, so every text takes the same time.
-template <typename Unit, typename Keep>
-wchar_t* copyKept(const Unit* first, const Unit* last, wchar_t* out, Keep keep) {
-  for (; first != last; ++first) {
-    const Unit unit = *first;
-    *out = static_cast<wchar_t>(unit);
-    out += keep(unit) ? 1 : 0;
-  }
-  return out;
-}
-
 template <typename Keep>
 void keepUnits(std::wstring& s, Keep keep) {
-  wchar_t* const units = s.data();
-  s.resize(static_cast<std::size_t>(copyKept(units, units + s.size(), units, keep) - units));
+  const wchar_t* const end = copyKept(std::wstring_view(s), s.data(), keep);
+  s.resize(static_cast<std::size_t>(end - s.data()));
 }
 
 void removeUnit(std::wstring& s, wchar_t removed) {
@@ -83,7 +73,6 @@ BSTR VB_RemoveColon(BSTR s) {
   if (s == nullptr) return nullptr;
   const std::u16string_view text = quvard::unitsOf(s);
   const std::unique_ptr<wchar_t[]> kept(new wchar_t[text.size() + 1]);
-  *copyKept(text.data(), text.data() + text.size(), kept.get(),
-            [](char16_t unit) { return unit != u':'; }) = 0;
+  *copyKept(text, kept.get(), [](char16_t unit) { return unit != u':'; }) = 0;
   return SysAllocString2(kept.get());
 }

@@ -6,6 +6,7 @@
 
 #include "host/HostFrame.h"
 #include "strings/PatternSearch.h"
+#include "strings/UnitBlocks.h"
 
 using quvard::givenOut;
 using quvard::PatternSearch;
@@ -20,33 +21,67 @@ class Replacing {
   using View = std::basic_string_view<Unit>;
 
   Replacing(View pattern, View replacement)
-      : search_(pattern), patternLength_(pattern.size()), replacement_(replacement) {}
+      : pattern_(pattern), replacement_(replacement), search_(pattern) {}
 
-  bool mayGrow() const { return replacement_.size() > patternLength_; }
+  bool mayGrow() const { return replacement_.size() > pattern_.size(); }
 
   std::size_t resultLength(View text) const {
-    std::size_t length = text.size();
-    for (std::size_t at = 0; (at = search_.find(text, at)) != View::npos; at += patternLength_) {
-      length += replacement_.size() - patternLength_;
-    }
-    return length;
+    return text.size() + occurrences(text) * (replacement_.size() - pattern_.size());
   }
 
   // Writes the result and returns its end. It may be written over the text unless it may grow.
   wchar_t* write(View text, wchar_t* out) const {
-    std::size_t from = 0;
-    for (std::size_t at = 0; (at = search_.find(text, from)) != View::npos;
-         from = at + patternLength_) {
-      out = std::copy(text.begin() + from, text.begin() + at, out);
-      out = std::copy(replacement_.begin(), replacement_.end(), out);
-    }
-    return std::copy(text.begin() + from, text.end(), out);
+    if (pattern_.size() > PatternSearch<Unit>::kShort) return writeBySearch(text, out);
+    if (pattern_.size() > 1 || !replacement_.empty()) return writeByBlocks(text, out);
+    return quvard::copyKept(text, out, [this](Unit unit) { return unit != pattern_.front(); });
   }
 
  private:
-  PatternSearch<Unit> search_;
-  std::size_t patternLength_;
+  std::size_t occurrences(View text) const {
+    if (pattern_.size() == 1) return quvard::countOf(text, pattern_.front());
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = search_.find(text, at)) != View::npos; at += pattern_.size()) {
+      ++count;
+    }
+    return count;
+  }
+
+  // For a short pattern: search and copy in one loop, and whole blocks where no occurrence begins.
+  wchar_t* writeByBlocks(View text, wchar_t* out) const {
+    constexpr std::size_t kBlock = quvard::kBlockUnits;
+    for (std::size_t at = 0; at < text.size();) {
+      const std::size_t end = std::min(at + kBlock, text.size());
+      if (end - at == kBlock && !quvard::holds(text.data() + at, kBlock, pattern_.front())) {
+        out = std::copy_n(text.data() + at, kBlock, out);
+        at = end;
+      }
+      while (at < end) {
+        const bool found =
+            text.size() - at >= pattern_.size() && quvard::standsAt(text, at, pattern_);
+        if (found) {
+          for (const Unit unit : replacement_) *out++ = static_cast<wchar_t>(unit);
+          at += pattern_.size();
+        } else {
+          *out++ = static_cast<wchar_t>(text[at++]);
+        }
+      }
+    }
+    return out;
+  }
+
+  wchar_t* writeBySearch(View text, wchar_t* out) const {
+    std::size_t from = 0;
+    for (std::size_t at = 0; (at = search_.find(text, from)) != View::npos;
+         from = at + pattern_.size()) {
+      out = std::copy(text.data() + from, text.data() + at, out);
+      out = std::copy(replacement_.begin(), replacement_.end(), out);
+    }
+    return std::copy(text.data() + from, text.data() + text.size(), out);
+  }
+
+  View pattern_;
   View replacement_;
+  PatternSearch<Unit> search_;
 };
 
 std::wstring replaced(std::wstring text, std::wstring_view pattern, std::wstring_view replacement) {
@@ -63,14 +98,18 @@ std::wstring replaced(std::wstring text, std::wstring_view pattern, std::wstring
   return text;
 }
 
-// Overwrites units in the caller's own storage, and none but those that are to change: a block
-// without one is left alone.
+// Overwrites units in the caller's own storage. A block without a match is not written to.
 void replaceUnits(char16_t* units, std::size_t length, char16_t pattern, char16_t replacement) {
   constexpr std::size_t kBlock = 64;
   for (std::size_t start = 0; start < length; start += kBlock) {
-    char16_t* const first = units + start;
-    char16_t* const last = units + std::min(start + kBlock, length);
-    if (std::count(first, last, pattern) > 0) std::replace(first, last, pattern, replacement);
+    char16_t* const block = units + start;
+    const std::size_t size = std::min(kBlock, length - start);
+    if (quvard::holds(block, size, pattern)) {
+      // Without a branch, so that the compiler makes it a few wide operations.
+      std::transform(block, block + size, block, [pattern, replacement](char16_t unit) {
+        return unit == pattern ? replacement : unit;
+      });
+    }
   }
 }
 

@@ -6,6 +6,7 @@
 #include "host/HostBool.h"
 #include "host/HostFrame.h"
 #include "strings/PatternSearch.h"
+#include "strings/UnitBlocks.h"
 
 using quvard::callWide;
 
@@ -40,7 +41,10 @@ class UnitSet {
 };
 
 bool haveCommonUnit(std::wstring_view text, std::wstring_view chars) {
-  if (chars.size() <= kFewUnits) return text.find_first_of(chars) != text.npos;
+  if (chars.size() <= kFewUnits) {
+    return std::any_of(chars.begin(), chars.end(),
+                       [text](wchar_t unit) { return text.find(unit) != text.npos; });
+  }
   const UnitSet set(chars);
   return std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.holds(unit); });
 }
@@ -56,7 +60,7 @@ std::int32_t cChrCount(std::wstring text, std::wstring pattern) {
   const std::wstring_view sought = pattern.c_str();
   if (sought.empty()) return 0;
   if (sought.size() == 1) {
-    return static_cast<std::int32_t>(std::count(searched.begin(), searched.end(), sought.front()));
+    return static_cast<std::int32_t>(quvard::countOf(searched, sought.front()));
   }
   const quvard::PatternSearch<wchar_t> search(sought);
   std::int32_t count = 0;
