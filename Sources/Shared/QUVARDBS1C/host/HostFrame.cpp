@@ -1,6 +1,3 @@
 #include "host/HostFrame.h"
 
-std::wstring convToWstring(BSTR handle) {
-  if (handle == nullptr) return {};
-  return CW162W32(handle);
-}
+std::wstring convToWstring(BSTR handle) { return quvard::takenIn(handle); }

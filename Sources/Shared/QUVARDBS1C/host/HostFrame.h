@@ -8,21 +8,34 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <tuple>
+#include <utility>
 
 #include "QUVARDBS1C.h"
 #include "QUVARDCR1C.h"
 
 namespace quvard {
 
-inline std::wstring takenIn(BSTR handle) { return convToWstring(handle); }
+inline std::wstring takenIn(BSTR handle) {
+  if (handle == nullptr) return {};
+  return CW162W32(handle);
+}
 inline std::int32_t takenIn(std::int32_t scalar) { return scalar; }
 
-// Calls a wide routine with the arguments of a host routine. The braces make the conversions run in
-// argument order, which a plain call leaves open.
+// A call whose arguments are evaluated in their order, which braces guarantee and a plain call
+// leaves open.
+template <typename Result>
+struct OrderedCall {
+  template <typename Routine, typename... Arguments>
+  OrderedCall(Routine routine, Arguments&&... arguments)
+      : result(routine(std::forward<Arguments>(arguments)...)) {}
+  Result result;
+};
+
+// Calls a wide routine with the arguments of a host routine.
 template <typename Routine, typename... Arguments>
 auto callWide(Routine routine, Arguments... arguments) {
-  return std::apply(routine, std::tuple{takenIn(arguments)...});
+  using Result = decltype(routine(takenIn(arguments)...));
+  return OrderedCall<Result>{routine, takenIn(arguments)...}.result;
 }
 
 inline BSTR givenOut(const std::wstring& text) { return SysAllocString2(text.c_str()); }

@@ -4,22 +4,22 @@
 #include "strings/PlatformCase.h"
 
 using quvard::callWide;
-using quvard::caseMapped;
 using quvard::FirstLetter;
 using quvard::givenOut;
 using quvard::LetterCase;
+using quvard::mapFirst;
 
 std::wstring LowerFirst(std::wstring text, std::wstring language, HostBool forceDE) {
   const quvard::Language* const row = quvard::findLanguage(language);
   const FirstLetter rule = row == nullptr ? FirstLetter::lowered : row->firstLetter;
   const bool kept = rule == FirstLetter::kept ||
                     (rule == FirstLetter::keptUnlessForced && !quvard::isSet(forceDE));
-  if (!kept && !text.empty()) text.front() = caseMapped(text.front(), LetterCase::lower);
+  if (!kept) mapFirst(text, LetterCase::lower);
   return text;
 }
 
 std::wstring UpperFirst(std::wstring text) {
-  if (!text.empty()) text.front() = caseMapped(text.front(), LetterCase::upper);
+  mapFirst(text, LetterCase::upper);
   return text;
 }
 

@@ -12,7 +12,7 @@ namespace quvard {
 enum class FirstLetter { lowered, keptUnlessForced, kept };
 
 struct Language {
-  std::wstring_view code;
+  wchar_t code[3];
   bool nounFirst = false;
   bool freeSeparator = false;  // noBlank makes it empty; otherwise it is always one blank
   bool lowersNoun = false;
@@ -36,8 +36,11 @@ inline constexpr std::array<Language, 10> kLanguages{{
 
 // The row of a code, compared whole and with case; null for any other code.
 inline const Language* findLanguage(std::wstring_view code) {
-  const auto row = std::find_if(kLanguages.begin(), kLanguages.end(),
-                                [code](const Language& language) { return language.code == code; });
+  if (code.size() != 2) return nullptr;
+  const auto row =
+      std::find_if(kLanguages.begin(), kLanguages.end(), [code](const Language& language) {
+        return language.code[0] == code[0] && language.code[1] == code[1];
+      });
   return row == kLanguages.end() ? nullptr : &*row;
 }
 

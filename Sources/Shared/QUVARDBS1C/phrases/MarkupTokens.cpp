@@ -1,6 +1,8 @@
+#include <string_view>
 #include <utility>
 
 #include "host/HostFrame.h"
+#include "strings/Replacement.h"
 
 using quvard::callWide;
 using quvard::givenOut;
@@ -8,8 +10,8 @@ using quvard::givenOut;
 namespace {
 
 struct MarkupToken {
-  const wchar_t* token;
-  const wchar_t* character;
+  std::wstring_view token;
+  std::wstring_view character;
 };
 
 constexpr MarkupToken kMarkupTokens[] = {
@@ -21,8 +23,9 @@ constexpr MarkupToken kMarkupTokens[] = {
 }  // namespace
 
 std::wstring QUVARDHTMLProcessor(std::wstring text) {
+  if (text.find(L'<') == text.npos) return text;
   for (const MarkupToken& row : kMarkupTokens) {
-    text = Replace(std::move(text), std::wstring(row.token), std::wstring(row.character));
+    text = quvard::replaced(std::move(text), row.token, row.character);
   }
   return text;
 }

@@ -33,15 +33,6 @@ class PrefixMatcher {
       border_;  // for each prefix, its longest proper prefix that also ends it
 };
 
-// Whether the pattern stands at a position from which it fits into the text.
-template <typename Unit>
-bool standsAt(std::basic_string_view<Unit> text, std::size_t at,
-              std::basic_string_view<Unit> pattern) {
-  std::size_t i = 0;
-  while (i < pattern.size() && text[at + i] == pattern[i]) ++i;
-  return i == pattern.size();
-}
-
 template <typename Unit>
 class PatternSearch {
  public:

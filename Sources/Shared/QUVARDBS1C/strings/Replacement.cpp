@@ -1,5 +1,6 @@
+#include "strings/Replacement.h"
+
 #include <algorithm>
-#include <cwchar>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,8 @@ class Replacing {
       : pattern_(pattern), replacement_(replacement), search_(pattern) {}
 
   bool mayGrow() const { return replacement_.size() > pattern_.size(); }
+
+  std::size_t firstOccurrence(View text) const { return search_.find(text, 0); }
 
   std::size_t resultLength(View text) const {
     return text.size() + occurrences(text) * (replacement_.size() - pattern_.size());
@@ -56,9 +59,7 @@ class Replacing {
         at = end;
       }
       while (at < end) {
-        const bool found =
-            text.size() - at >= pattern_.size() && quvard::standsAt(text, at, pattern_);
-        if (found) {
+        if (text[at] == pattern_.front() && standsAt(text, at)) {
           for (const Unit unit : replacement_) *out++ = static_cast<wchar_t>(unit);
           at += pattern_.size();
         } else {
@@ -67,6 +68,10 @@ class Replacing {
       }
     }
     return out;
+  }
+
+  bool standsAt(View text, std::size_t at) const {
+    return text.substr(at, pattern_.size()) == pattern_;
   }
 
   wchar_t* writeBySearch(View text, wchar_t* out) const {
@@ -83,20 +88,6 @@ class Replacing {
   View replacement_;
   PatternSearch<Unit> search_;
 };
-
-std::wstring replaced(std::wstring text, std::wstring_view pattern, std::wstring_view replacement) {
-  if (pattern.empty()) return text;
-  const Replacing<wchar_t> replacing(pattern, replacement);
-  if (replacing.mayGrow()) {
-    const std::size_t length = replacing.resultLength(text);
-    if (length == text.size()) return text;
-    std::wstring result(length, L'\0');
-    replacing.write(text, result.data());
-    return result;
-  }
-  text.resize(static_cast<std::size_t>(replacing.write(text, text.data()) - text.data()));
-  return text;
-}
 
 // Overwrites units in the caller's own storage. A block without a match is not written to.
 void replaceUnits(char16_t* units, std::size_t length, char16_t pattern, char16_t replacement) {
@@ -115,13 +106,28 @@ void replaceUnits(char16_t* units, std::size_t length, char16_t pattern, char16_
 
 }  // namespace
 
+std::wstring quvard::replaced(std::wstring text, std::wstring_view pattern,
+                              std::wstring_view replacement) {
+  if (pattern.empty() || pattern == replacement) return text;
+  const Replacing<wchar_t> replacing(pattern, replacement);
+  const std::size_t first = replacing.firstOccurrence(text);
+  if (first == text.npos) return text;
+  const std::wstring_view rest = std::wstring_view(text).substr(first);
+  if (replacing.mayGrow()) {
+    std::wstring result(first + replacing.resultLength(rest), L'\0');
+    replacing.write(rest, std::copy_n(text.data(), first, result.data()));
+    return result;
+  }
+  text.resize(static_cast<std::size_t>(replacing.write(rest, text.data() + first) - text.data()));
+  return text;
+}
+
 std::wstring Replace(std::wstring text, std::wstring pattern, std::wstring replacement) {
-  return replaced(std::move(text), pattern, replacement);
+  return quvard::replaced(std::move(text), pattern, replacement);
 }
 
 std::wstring Replace(std::wstring text, const wchar_t* pattern, const wchar_t* replacement) {
-  if (std::wcscmp(pattern, replacement) == 0) return text;
-  return replaced(std::move(text), pattern, replacement);
+  return quvard::replaced(std::move(text), pattern, replacement);
 }
 
 BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement) {
@@ -149,6 +155,6 @@ BSTR VB_Replace2(BSTR text, BSTR pattern1, BSTR replacement1, BSTR pattern2, BST
   const std::wstring inserted1 = quvard::widened(unitsOf(replacement1));
   const std::wstring sought2 = quvard::widened(unitsOf(pattern2));
   const std::wstring inserted2 = quvard::widened(unitsOf(replacement2));
-  result = Replace(std::move(result), sought1.c_str(), inserted1.c_str());
-  return givenOut(Replace(std::move(result), sought2.c_str(), inserted2.c_str()));
+  result = quvard::replaced(std::move(result), sought1, inserted1);
+  return givenOut(quvard::replaced(std::move(result), sought2, inserted2));
 }

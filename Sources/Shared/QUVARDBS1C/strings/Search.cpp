@@ -40,40 +40,42 @@ class UnitSet {
   std::wstring beyond_;
 };
 
-bool haveCommonUnit(std::wstring_view text, std::wstring_view chars) {
+HostBool commonUnit(std::wstring_view text, std::wstring_view chars) {
+  bool found = false;
   if (chars.size() <= kFewUnits) {
-    return std::any_of(chars.begin(), chars.end(),
-                       [text](wchar_t unit) { return text.find(unit) != text.npos; });
+    found = std::any_of(chars.begin(), chars.end(),
+                        [text](wchar_t unit) { return text.find(unit) != text.npos; });
+  } else {
+    const UnitSet set(chars);
+    found = std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.holds(unit); });
   }
-  const UnitSet set(chars);
-  return std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.holds(unit); });
+  return found ? quvard::kHostTrue : quvard::kHostFalse;
 }
 
-}  // namespace
-
-HostBool CommonChar(std::wstring text, std::wstring chars) {
-  return haveCommonUnit(text, chars) ? quvard::kHostTrue : quvard::kHostFalse;
-}
-
-std::int32_t cChrCount(std::wstring text, std::wstring pattern) {
-  const std::wstring_view searched = text.c_str();
-  const std::wstring_view sought = pattern.c_str();
-  if (sought.empty()) return 0;
-  if (sought.size() == 1) {
-    return static_cast<std::int32_t>(quvard::countOf(searched, sought.front()));
+std::int32_t occurrences(std::wstring_view text, std::wstring_view pattern) {
+  if (pattern.empty()) return 0;
+  if (pattern.size() == 1) {
+    return static_cast<std::int32_t>(quvard::countOf(text, pattern.front()));
   }
-  const quvard::PatternSearch<wchar_t> search(sought);
+  const quvard::PatternSearch<wchar_t> search(pattern);
   std::int32_t count = 0;
-  for (std::size_t found = 0; (found = search.find(searched, found)) != searched.npos;
-       found += sought.size()) {
+  for (std::size_t at = 0; (at = search.find(text, at)) != text.npos; at += pattern.size()) {
     ++count;
   }
   return count;
 }
 
-HostBool VB_CommonChar(BSTR text, BSTR chars) { return callWide(CommonChar, text, chars); }
+}  // namespace
+
+HostBool CommonChar(std::wstring text, std::wstring chars) { return commonUnit(text, chars); }
+
+std::int32_t cChrCount(std::wstring text, std::wstring pattern) {
+  return occurrences(text.c_str(), pattern.c_str());
+}
+
+HostBool VB_CommonChar(BSTR text, BSTR chars) { return callWide(commonUnit, text, chars); }
 
 std::int32_t ChrCount(BSTR text, BSTR pattern) {
   if (text == nullptr || pattern == nullptr) return 0;
-  return callWide(cChrCount, text, pattern);
+  return callWide(occurrences, text, pattern);
 }

@@ -11,10 +11,11 @@ using quvard::givenOut;
 namespace {
 
 // The units at the 1-based positions `first` to `last`, both within the text where any lie between.
-std::wstring slice(const std::wstring& text, std::int64_t first, std::int64_t last) {
+std::wstring slice(std::wstring text, std::int64_t first, std::int64_t last) {
   if (last < first) return {};
-  return text.substr(static_cast<std::size_t>(first - 1),
-                     static_cast<std::size_t>(last - first + 1));
+  text.resize(static_cast<std::size_t>(last));
+  text.erase(0, static_cast<std::size_t>(first - 1));
+  return text;
 }
 
 // A negative position counts as beyond every end.
@@ -22,14 +23,14 @@ bool isWithin(const std::wstring& text, std::int32_t position) {
   return static_cast<std::uint32_t>(position) <= text.size();
 }
 
-std::wstring fromTo(const std::wstring& text, std::int32_t from, std::int32_t to) {
+std::wstring fromTo(std::wstring text, std::int32_t from, std::int32_t to) {
   if (from < 1 || !isWithin(text, to)) return {};
-  return slice(text, from, to);
+  return slice(std::move(text), from, to);
 }
 
-std::wstring between(const std::wstring& text, std::int32_t from, std::int32_t to) {
+std::wstring between(std::wstring text, std::int32_t from, std::int32_t to) {
   if (from < 1 || !isWithin(text, to)) return {};
-  return slice(text, std::int64_t{from} + 1, std::int64_t{to} - 1);
+  return slice(std::move(text), std::int64_t{from} + 1, std::int64_t{to} - 1);
 }
 
 // Two delimiters of one unit each will do, and so will any two of which one is empty.
