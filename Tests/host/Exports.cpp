@@ -56,10 +56,13 @@ Names builtSymbols() {
 Names routinesOf(const Names& symbols) {
   Names routines;
   for (const std::string& symbol : symbols) {
-    int status = 0;
-    const std::unique_ptr<char, void (*)(void*)> name(
-        abi::__cxa_demangle(symbol.c_str(), nullptr, nullptr, &status), std::free);
-    std::string routine = status == 0 ? name.get() : symbol;
+    std::string routine = symbol;
+    // Encoded names alone: a plain one can be the code of a type, as Pi is of a pointer to int.
+    if (symbol.starts_with("_Z")) {
+      const std::unique_ptr<char, void (*)(void*)> name(
+          abi::__cxa_demangle(symbol.c_str(), nullptr, nullptr, nullptr), std::free);
+      if (name != nullptr) routine = name.get();
+    }
     routine.erase(std::min(routine.find('('), routine.size()));
     routines.push_back(routine);
   }

@@ -6,6 +6,8 @@
 namespace {
 
 TEST(HeaderExamples, Hold) {
+  int32_t i, j;
+  double x, xSecond, y;
 #include "HeaderExamples.inc"
 }
 

@@ -29,7 +29,8 @@
 /// U+0020.
 ///
 /// The examples are expressions that hold. In them `B(u"...")` stands for a host string of that
-/// text, and a host string that results is compared by its text (and released).
+/// text, and a host string that results is compared by its text (and released); `i` and `j` are
+/// `int32_t` variables, `x`, `xSecond` and `y` doubles.
 #ifndef QUVARDBS1C_H
 #define QUVARDBS1C_H
 
@@ -481,9 +482,8 @@ QUVARDBS1C_API std::wstring OutputFormat(double value);
 /// @param value         the value that is to be printed
 /// @param decimals      decimals of the pattern; also the limit for small values
 /// @param useExponent   set: there may be an exponent part
-/// @param keepDecimals  matters only with an exponent part. Set: the mantissa stays as told. Not
-/// set: it
-///                      becomes "0" if pow(10, -e) times the value is whole
+/// @param keepDecimals  matters only with an exponent part. Set: the mantissa stays as told. Not set:
+///                      it becomes "0" if pow(10, -e) times the value is whole
 /// @b Example: `OptimalFormat(123456.5, 2, -1, -1) == L"0.00E+0"`
 QUVARDBS1C_API std::wstring OptimalFormat(double value, int32_t decimals, HostBool useExponent,
                                           HostBool keepDecimals);
@@ -521,6 +521,326 @@ QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool us
                                      HostBool keepDecimals);
 
 /// @}
+/// @name Elementary functions with guards (numerics/)
+///
+/// What these and the other numerics compute themselves has the same bits on every compiler and
+/// processor: IEEE doubles in the order of evaluation given. What passes through `log`, `exp`,
+/// `pow`, `log10` or `atan` is as good as the platform's function of that name.
+/// @{
+
+/// The constant 3.14159265358979, which is 7 units in the last place below pi. Twice `ASin(1)`
+/// equals it.
+///
+/// @b Example: `Pi() == 3.14159265358979`
+QUVARDBS1C_API double Pi(void) QUVARDBS1C_NOEXCEPT;
+
+/// The square root (not the square) of @p x, correctly rounded.
+///
+/// @return -1.79769313486231e+308 if @p x is below 0; -0.0 for -0.0
+/// @b Example: `sqr(4) == 2`
+QUVARDBS1C_API double sqr(double x) QUVARDBS1C_NOEXCEPT;
+
+/// The decimal logarithm of @p x, as the platform's `log10` gives it.
+///
+/// @b Example: `Log10(1000) == 3`
+QUVARDBS1C_API double Log10(double x) QUVARDBS1C_NOEXCEPT;
+
+/// @p base to the power of @p exponent, as the platform's `pow` gives it.
+///
+/// @b Example: `spow(2, 10) == 1024`
+QUVARDBS1C_API double spow(double base, double exponent) QUVARDBS1C_NOEXCEPT;
+
+/// exp(x) - 1.
+///
+/// Method: x + 0.5 * x * x for abs(x) up to 1e-6, else exp(x) + (-1.0), which cancels near 0.
+///
+/// Accuracy: relative error at most 1.1e-16 for abs(x) up to 1e-8, growing to 1.7e-13 at 1e-6; then
+/// 1.2e-16 / abs(x) up to 1; 1 unit in the last place for abs(x) from 1 to 709.
+///
+/// @return 1.79769313486231e+308 for @p x above 709
+/// @b Example: `expm1x(1e-6) == 1.0000004999999999e-06`
+QUVARDBS1C_API double expm1x(double x) QUVARDBS1C_NOEXCEPT;
+
+/// The arcsine of @p x in radians, as atan(x / sqr((1 - x) * (x + 1))).
+///
+/// @param x  from -1 to 1; beyond, the result is close to 0 with the sign opposite to @p x, and
+///           nothing tells it from an arcsine
+/// @return   at 1 and -1 the constants 1.570796326794895 and -1.570796326794895; 0.0 for both zeros
+/// @b Example: `ASin(1) == 1.570796326794895`
+QUVARDBS1C_API double ASin(double x) QUVARDBS1C_NOEXCEPT;
+
+/// @p a if it is below @p b, otherwise @p b: of equal arguments, or with a NaN, @p b.
+///
+/// @b Example: `Min(2, 1) == 1`
+QUVARDBS1C_API double Min(double a, double b) QUVARDBS1C_NOEXCEPT;
+
+/// @p a if it is above @p b, otherwise @p b: of equal arguments, or with a NaN, @p b.
+///
+/// @b Example: `Max(2, 1) == 2`
+QUVARDBS1C_API double Max(double a, double b) QUVARDBS1C_NOEXCEPT;
+
+/// The sign of @p x as a number: 1, -1, or 0.0 for both zeros.
+///
+/// @return NaN for an infinity or NaN
+/// @b Example: `FSgn(-0.25) == -1`
+QUVARDBS1C_API double FSgn(double x) QUVARDBS1C_NOEXCEPT;
+
+/// The magnitude of @p a with the sign of @p b, where -0.0 and NaN count as not negative.
+///
+/// @b Example: `FSign(3, -1) == -3`
+QUVARDBS1C_API double FSign(double a, double b) QUVARDBS1C_NOEXCEPT;
+
+/// ln(exp(a) + exp(b)), also where the exponentials leave the range of doubles.
+///
+/// Method: log(exp(-abs(a - b)) + 1.0) + the larger one.
+///
+/// Accuracy: absolute error at most 2.6e-16 times the larger of 1 and abs(max(a, b)), for arguments
+/// from -1e6 to 1e6. Where the result is close to 0, the relative error has no bound.
+///
+/// @return NaN for two infinities of the same sign
+/// @b Example: `LogExpAPlusExpB(1000, 1000) == 1000.6931471805599`
+QUVARDBS1C_API double LogExpAPlusExpB(double a, double b) QUVARDBS1C_NOEXCEPT;
+
+/// @}
+/// @name Exchanges (numerics/)
+///
+/// Both pointers must be valid. Given the same pointer twice, the value stays.
+/// @{
+
+/// Exchanges two integers.
+///
+/// @b Example: `(i = 1, j = 2, SwapLng(&i, &j), i) == 2`
+QUVARDBS1C_API void SwapLng(int32_t* a, int32_t* b) QUVARDBS1C_NOEXCEPT;
+
+/// Exchanges two doubles, bits as they are.
+///
+/// @b Example: `(x = 1, y = 2, SwapDbl(&x, &y), x) == 2`
+QUVARDBS1C_API void SwapDbl(double* a, double* b) QUVARDBS1C_NOEXCEPT;
+
+/// Exchanges the host strings that two variables hold. No text is touched, nothing is allocated or
+/// released.
+///
+/// @b Example: `[] { B s(u"s"); BSTR a = s; BSTR b = nullptr; SwapStr(&a, &b); return b == BSTR(s); }()`
+QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
+
+/// @}
+/// @name Gamma function and combinatorics (numerics/)
+/// @{
+
+/// The natural logarithm of the gamma function.
+///
+/// Method: Lanczos approximation with g = 7 and nine coefficients (C. Lanczos, 1964), whose small
+/// terms are added first. 0.0 exactly at 1.
+///
+/// Accuracy: relative error at most 1.1e-14 for x from 0.01 to 0.5, 5e-15 from 3 to 100 and 8e-16
+/// from 100 to 2.5e305. From 0.5 to 3, with zeros at 1 and 2, absolute error at most 4e-15. Below
+/// 0.01 the rounding of 7 + x counts: absolute error up to 4.5e-16 / x.
+///
+/// @param x  positive. From -6.5 up to 0 the formula runs as it is: NaN where the gamma function is
+///           negative, +infinity at 0, -2, -4, -6 and -6.5, far off below -6.19
+/// @return   -1.79769313486231e+308 for @p x below -6.5; +infinity from about 2.56e305; NaN for
+///           +infinity
+/// @b Example: `GammaLn(0.5) > 0.57236494292 && GammaLn(0.5) < 0.57236494293`
+QUVARDBS1C_API double GammaLn(double x) QUVARDBS1C_NOEXCEPT;
+
+/// n factorial, in one table look-up.
+///
+/// Accuracy: exact up to 22; within 6 units in the last place up to 170.
+///
+/// @return 1 for @p n below 2; +infinity above 170
+/// @b Example: `Fact(5) == 120`
+QUVARDBS1C_API double Fact(int32_t n) QUVARDBS1C_NOEXCEPT;
+
+/// The number of ways to choose @p k of @p n.
+///
+/// | Arguments                | Result                                                        |
+/// |--------------------------|---------------------------------------------------------------|
+/// | k above n                | 0                                                             |
+/// | k equal to n or to 0     | 1                                                             |
+/// | n - k truncated, above k | m = k truncated, q = n - m                                    |
+/// | otherwise                | m = n - k truncated, q = k                                    |
+/// | m below 2                | 1 + q                                                         |
+/// | m from 2                 | r = 1 + q, then for i = 2 to m: r = ((q + i) * r) / i         |
+///
+/// Fractions and negative numbers are not refused: the table holds for them as it stands.
+/// Where there are passes at all, q is finite and at least m. Each then multiplies r by 2 or more,
+/// but for rounding, so that r is infinite after at most 515 of them, whatever the arguments. No
+/// later pass changes that, and none is run.
+///
+/// Accuracy: exact for whole arguments as long as all products stay below 2^53; within 38 units in the
+/// last place for whole n up to 1020.
+///
+/// @return +infinity if the coefficient, or a product on the way to it, is out of range; 1 + k if
+///         n - k is 2147483648 or more
+/// @b Example: `Cnk(49, 6) == 13983816`
+QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
+
+/// The sum of Cnk(n, k) for the whole numbers k from @p from to @p to, added upward.
+///
+/// The result has the bits of the addition term by term, also over billions of terms; long ranges
+/// of terms that grow by steps of 1 are added in closed form. A call takes longest for a fractional
+/// @p n near 1020: 1 to 2 milliseconds.
+///
+/// @param from  truncated toward zero; outside the 32-bit range it counts as -2147483648
+/// @param to    the sum ends at the last whole number not above it, and at 2147483647 in any case
+/// @return      0 for an empty range or a NaN @p to; terms with k above @p n add nothing
+/// @b Example: `SumCnk(5, 2, 3) == 20`
+QUVARDBS1C_API double SumCnk(double n, double from, double to) QUVARDBS1C_NOEXCEPT;
+
+/// @}
+/// @name Whole numbers, remainders and divisors (numerics/)
+///
+/// Where a double is taken as a 32-bit integer, it is truncated toward zero. One that does not fit
+/// then, and NaN, count as -2147483648.
+/// @{
+
+/// The floored remainder of @p a by @p b, which has the sign of @p b.
+///
+/// @return @p a if @p b is 0
+/// @b Example: `Mod(-7, 3) == 2`
+QUVARDBS1C_API int32_t Mod(int32_t a, int32_t b) QUVARDBS1C_NOEXCEPT;
+
+/// The floored remainder a - floor(a / b) * b, which the rounded quotient decides.
+///
+/// @return NaN if @p b is 0 or an argument is infinite
+/// @b Example: `ModDbl(-7.5, 2) == 0.5`
+QUVARDBS1C_API double ModDbl(double a, double b) QUVARDBS1C_NOEXCEPT;
+
+/// The largest common divisor. Zero is neutral and signs do not count.
+///
+/// @return not negative, but for -2147483648, whose magnitude has no place in 32 bits
+/// @b Example: `LCD(-12, 18) == 6`
+QUVARDBS1C_API int32_t LCD(int32_t a, int32_t b) QUVARDBS1C_NOEXCEPT;
+
+/// The largest common divisor of two decimal numbers, for instance 0.25 of 0.5 and 0.75.
+///
+/// Method: both are multiplied by the power of ten that makes them whole, and LCD2() of those is
+/// divided again. A number counts as whole if its fraction is not above 1e-12, or within 2^-48 of
+/// the number (the rounding of decimals and of their products). Made whole, a number within 2^-48
+/// of the nearest whole number (of two, the even one) is that number, any other is truncated.
+///
+/// @param a, b  both times the power of ten must be below 2147483648 in magnitude; beyond, the
+///              result is a divisor of other numbers
+/// @b Example: `LCDDbl(0.29, 0.29) == 0.29`
+QUVARDBS1C_API double LCDDbl(double a, double b) QUVARDBS1C_NOEXCEPT;
+
+/// Whether @p x is a whole number within 1e-12, of any size. True for infinities and NaN.
+///
+/// @b Example: `IsLong(3.0000000000009) == -1`
+QUVARDBS1C_API HostBool IsLong(double x) QUVARDBS1C_NOEXCEPT;
+
+/// Whether @p x is a whole number within @p tol, inclusive. True if either is NaN.
+///
+/// @b Example: `IsLongP(2.75, 0.25) == -1`
+QUVARDBS1C_API HostBool IsLongP(double x, double tol) QUVARDBS1C_NOEXCEPT;
+
+/// Whether half of @p x lies less than 2^-52 above a whole number: one just below does not count.
+/// False for infinities and NaN.
+///
+/// @b Example: `IsEven(-2.0) == -1`
+QUVARDBS1C_API HostBool IsEven(double x) QUVARDBS1C_NOEXCEPT;
+
+/// Whether @p n is even.
+///
+/// @b Example: `IsEvenLng(3) == 0`
+QUVARDBS1C_API HostBool IsEvenLng(int32_t n) QUVARDBS1C_NOEXCEPT;
+
+/// @}
+/// @name Rounding to whole numbers and halves (numerics/)
+///
+/// @p half counts if it is set; it makes the grid one of halves.
+///
+/// | v, half set | Int05 | Int05c | Int05LU, lower True | Int05LU, lower not True |
+/// |-------------|-------|--------|---------------------|-------------------------|
+/// | 2.1         | 2.5   | 2.0    | 2.0                 | 2.5                     |
+/// | 2.5         | 3.0   | 2.5    | 2.5                 | 2.5                     |
+/// | 2.6         | 3.0   | 2.5    | 2.5                 | 3.0                     |
+/// | -2.1        | -2.5  | -2.0   | -2.5                | -2.0                    |
+/// @{
+
+/// @p v moved away from zero: a value that is not whole goes to the next whole number or, with
+/// @p half, to the next multiple of a half. The half point itself goes on to the whole number, and
+/// so does a fraction less than 1e-12 below it. From 2147483647 in magnitude, @p half has no
+/// effect.
+///
+/// @return +0.0 for both zeros; NaN for an infinity or NaN
+/// @b Example: `Int05(2.1, -1) == 2.5`
+QUVARDBS1C_API double Int05(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
+
+/// @p v moved to the closest whole number or, with @p half, to the closest multiple of a half.
+///
+/// Of two equally close whole numbers the one nearer to zero is taken, up to 15.5 (from 16.5 the
+/// one further away). A quarter point, and a value less than 1e-12 beyond it, goes to the whole
+/// number.
+///
+/// @return +0.0 for both zeros, -0.0 for a negative value that comes to nothing; NaN for an
+///         infinity or NaN
+/// @b Example: `Int05c(2.4, -1) == 2.5`
+QUVARDBS1C_API double Int05c(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
+
+/// @p v moved down or up the number line to a whole number or, with @p half, to a multiple of a
+/// half. A value on the grid stays. No tolerance.
+///
+/// @param lower  down if it is True, otherwise up
+/// @return       an infinity for itself; NaN for NaN
+/// @b Example: `Int05LU(-2.1, -1, -1) == -2.5`
+QUVARDBS1C_API double Int05LU(double v, HostBool half, HostBool lower) QUVARDBS1C_NOEXCEPT;
+
+/// @}
+/// @name Interpolation (numerics/)
+///
+/// @p forward counts if it is True: the value at an abscissa is worked out; otherwise the abscissa,
+/// or abscissae, of a value. Points may stand in any order. Every pointer must be valid, also one
+/// that a direction leaves untouched.
+/// @{
+
+/// The straight line through (x1, y1) and (x2, y2), used in either direction.
+///
+/// | Case                     | Result | x               | y                           |
+/// |--------------------------|--------|-----------------|-----------------------------|
+/// | x1 equal to x2           | -1     | written: x1     | written: mean of y1 and y2  |
+/// | forward                  | 0      | read            | written                     |
+/// | inverse, slope 0         | -1     | untouched       | untouched                   |
+/// | inverse, any other slope | 0      | written         | read                        |
+///
+/// Method: a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1), then b + a * x or
+/// (y - b) / a.
+///
+/// Accuracy: with abscissae, values and the asked one from -1 to 1, x1 and x2 at least 0.1 apart,
+/// absolute error at most 5e-15 forward; with y1 and y2 at least 0.1 apart, 6e-15 inverse. Both scale
+/// with the data. Data far from the origin against their distances lose more.
+///
+/// @b Example: `(x = 2, LinearInterpol(1, 3, 2, 6, &x, &y, -1), y) == 4`
+QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x,
+                                      double* y, HostBool forward) QUVARDBS1C_NOEXCEPT;
+
+/// The parabola a * x^2 + b * x + c through three points, used in either direction.
+///
+/// | Case                    | Result | x             | xSecond       | y         |
+/// |-------------------------|--------|---------------|---------------|-----------|
+/// | two abscissae equal     | -1     | untouched     | untouched     | untouched |
+/// | forward                 | 0      | read          | untouched     | written   |
+/// | inverse, a and b 0      | -1     | untouched     | untouched     | untouched |
+/// | inverse, a 0, b not     | 0      | written       | untouched     | read      |
+/// | inverse, a not 0        | 0      | lower root    | upper root    | read      |
+/// | inverse, y not reached  | 0      | extreme       | its negative  | read      |
+///
+/// The extreme is 8.98846567431155e+307 / abs(a), which may be +infinity.
+/// So @p x lies above @p xSecond exactly if the value is not reached.
+///
+/// Method: c is worked out first, b from c, a from both. Points at 0, and points so near to 0 that
+/// a product vanishes, are passed over where another will do.
+///
+/// Accuracy: with abscissae, values and the asked one from -1 to 1, abscissae at least 0.1 apart and
+/// 0.01 from 0, absolute error at most 8e-12 forward; with abs(a) at least 0.1 and a discriminant of
+/// at least 0.01, 3e-10 inverse. Closer abscissae, and abscissae closer to 0, lose more.
+///
+/// @b Example: `(x = 5, QuadraticInterpol(1, 2, 4, 0, 0, 6, &x, &xSecond, &y, -1), y) == 12`
+QUVARDBS1C_API int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2,
+                                         double y3, double* x, double* xSecond, double* y,
+                                         HostBool forward) QUVARDBS1C_NOEXCEPT;
+
+/// @}
 
 #ifdef __cplusplus
 }
@@ -529,7 +849,7 @@ QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool us
 #endif
 #endif
 
-/// @name Routines of C++ linkage, whose symbols encode their argument types (strings/)
+/// @name Routines of C++ linkage, whose symbols encode their argument types (strings/, numerics/)
 /// @{
 
 #ifdef __cplusplus
@@ -551,6 +871,15 @@ QUVARDBS1C_API std::wstring Replace(std::wstring text, std::wstring pattern,
 /// @b Example: `Replace(L"aab", L"ab", L"b") == L"ab"`
 QUVARDBS1C_API std::wstring Replace(std::wstring text, const wchar_t* pattern,
                                     const wchar_t* replacement);
+
+/// The largest common divisor of two whole numbers held in doubles.
+///
+/// Only the truncated values take part; but if @p a is a multiple of @p b as truncated, the result
+/// is the magnitude of @p b as it was: `LCD2(6, 2.5)` is 2.5, `LCD2(7, 2.5)` is 1.
+///
+/// @return the magnitude of @p a if @p b is 0
+/// @b Example: `LCD2(12, 18) == 6`
+QUVARDBS1C_API double LCD2(double a, double b) QUVARDBS1C_NOEXCEPT;
 #endif
 
 /// @}

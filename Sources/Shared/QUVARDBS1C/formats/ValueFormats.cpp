@@ -3,6 +3,7 @@
 
 #include "host/HostBool.h"
 #include "host/HostFrame.h"
+#include "numerics/Constants.h"
 #include "numerics/TruncLng.h"
 #include "numerics/WholeDistance.h"
 

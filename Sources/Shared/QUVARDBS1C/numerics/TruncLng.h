@@ -1,3 +1,4 @@
+// The truncation of a double to 32 bits that all subsystems share.
 #ifndef QUVARDBS1C_NUMERICS_TRUNCLNG_H
 #define QUVARDBS1C_NUMERICS_TRUNCLNG_H
 
@@ -6,9 +7,9 @@
 
 namespace quvard {
 
-// x truncated toward zero to 32 bits. A value that does not fit, an infinity and NaN all give the
-// lowest integer; no such value is ever converted, for that would be undefined.
-inline std::int32_t TruncLng(double x) {
+// x truncated toward zero; the lowest integer if that does not fit 32 bits, or x is NaN. The test
+// stands before the conversion because converting a value that does not fit is undefined.
+constexpr std::int32_t TruncLng(double x) {
   return x > -2147483649.0 && x < 2147483648.0 ? static_cast<std::int32_t>(x)
                                                : std::numeric_limits<std::int32_t>::min();
 }

@@ -5,15 +5,12 @@
 
 namespace quvard {
 
-// Where a number is tested for being whole, this much is the usual tolerance.
-inline constexpr double kWholeTolerance = 1e-12;
-
 // The distance of x from the nearest whole number; 0 for an infinity, NaN for NaN.
 inline double wholeDistance(double x) {
   double whole = 0.0;
-  const double below = std::abs(std::modf(x, &whole));
-  const double above = 1.0 - below;
-  return above < below ? above : below;
+  const double fraction = std::fabs(std::modf(x, &whole));
+  const double rest = 1.0 - fraction;
+  return rest < fraction ? rest : fraction;
 }
 
 }  // namespace quvard

@@ -49,7 +49,7 @@ HostBool commonUnit(std::wstring_view text, std::wstring_view chars) {
     const UnitSet set(chars);
     found = std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.holds(unit); });
   }
-  return found ? quvard::kHostTrue : quvard::kHostFalse;
+  return quvard::hostBool(found);
 }
 
 std::int32_t occurrences(std::wstring_view text, std::wstring_view pattern) {

@@ -1,0 +1,151 @@
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <limits>
+
+#include "QUVARDBS1C.h"
+#include "numerics/TruncLng.h"
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+// The factorials up to the last finite one, each from the one before by one rounded multiplication.
+constexpr auto kFactorials = [] {
+  std::array<double, 171> factorials{1.0};
+  for (std::size_t n = 1; n < factorials.size(); ++n) {
+    factorials[n] = factorials[n - 1] * static_cast<double>(n);
+  }
+  return factorials;
+}();
+
+// The terms 1 + (origin + step * k) for whole k, rounded in that order; step is 1 or -1. As long as
+// inner sum and term stay each in one binade, terms of neighbours differ by exactly step.
+struct Line {
+  double origin, step;
+
+  double inner(double k) const { return origin + step * k; }
+  double term(double k) const { return 1.0 + inner(k); }
+};
+
+constexpr int kMantissaBits = 52;
+
+bool isSameBinade(double a, double b) {
+  return std::bit_cast<uint64_t>(a) >> kMantissaBits == std::bit_cast<uint64_t>(b) >> kMantissaBits;
+}
+
+bool isPowerOfTwo(double a) { return std::bit_cast<uint64_t>(a) << (64 - kMantissaBits) == 0; }
+
+// The last of the whole numbers from 0 to `high` that holds, where 0 holds and after the first that
+// does not none does.
+template <typename Holds>
+double lastThatHolds(double high, Holds holds) {
+  double low = 0.0;
+  while (low < high) {
+    const double middle = std::ceil((low + high) * 0.5);
+    if (holds(middle)) {
+      low = middle;
+    } else {
+      high = middle - 1.0;
+    }
+  }
+  return low;
+}
+
+double addOneByOne(double sum, const Line& line, double k, double end) {
+  for (; k < end; k += 1.0) sum += line.term(k);
+  return sum;
+}
+
+// `sum` and the terms from k up to but not including `end`, none of other sign than the others,
+// rounded at each addition.
+//
+// While the sum stays in one binade, each addition rounds the term to a multiple of the sum's unit
+// in the last place (ulp), ties to the even multiple. Terms that lie 2 * max(1, ulp) apart leave
+// the same remainder and shift the sum by an even multiple, so they round alike: non-ties whatever
+// the sum is, and ties since each leaves an even multiple behind. After a first such period, which
+// brings the first tie, every period thus makes the same rounding errors, and its change of the sum
+// differs from that of the period before by step * period^2. The second is added term by term, and
+// as many as stay within the binade are then added at once. Every number in that is a multiple of
+// ulp of at most 2^53 * ulp, and so exact.
+double addRun(double sum, const Line& line, double k, double end) {
+  for (;;) {
+    const double ulp = std::nextafter(std::fabs(sum), kInfinity) - std::fabs(sum);
+    const double period = 2.0 * std::max(1.0, ulp);
+    if (end - k < 3.0 * period) return addOneByOne(sum, line, k, end);
+
+    const double first = k;
+    const double start = sum;
+    const double settled = addOneByOne(start, line, k, k + period);
+    sum = addOneByOne(settled, line, k + period, k + 2.0 * period);
+    k += 2.0 * period;
+    if (!isSameBinade(start, sum)) continue;
+
+    const double change = sum - settled;
+    const double growth = line.step * period * period;
+    const auto sumAfter = [&](double periods) {
+      return sum + (periods * change + growth * (periods * (periods + 1.0) * 0.5));
+    };
+    const double periods = lastThatHolds(std::floor((end - k) / period), [&](double count) {
+      const double last = k + count * period - 1.0;
+      const double after = sumAfter(count);
+      return count * std::fabs(change) <= 0x1p53 * ulp && isSameBinade(sum, after) &&
+             !isPowerOfTwo(after) && isSameBinade(line.inner(first), line.inner(last)) &&
+             isSameBinade(line.term(first), line.term(last));
+    });
+    sum = sumAfter(periods);
+    k += periods * period;
+  }
+}
+
+}  // namespace
+
+double Fact(int32_t n) noexcept {
+  if (n < 2) return 1.0;
+  const auto index = static_cast<std::size_t>(n);
+  return index < kFactorials.size() ? kFactorials[index] : kInfinity;
+}
+
+double Cnk(double n, double k) noexcept {
+  if (k > n) return 0.0;
+  if (k == n || k == 0.0) return 1.0;
+  const int32_t rest = quvard::TruncLng(n - k);
+  const bool isFirstSideShorter = rest > k;
+  const int32_t m = isFirstSideShorter ? quvard::TruncLng(k) : rest;
+  const double q = isFirstSideShorter ? n - m : k;
+  double r = 1.0 + q;
+  // Where there is a pass at all, q is finite and at least m. So each pass multiplies r by about 2
+  // or more, r is infinite after at most some 515 of them, and then stays infinite.
+  for (double i = 2.0; i <= m && r < kInfinity; i += 1.0) r = ((q + i) * r) / i;
+  return r;
+}
+
+double SumCnk(double n, double from, double to) noexcept {
+  double k = quvard::TruncLng(from);
+  if (!(to >= k)) return 0.0;
+  // All terms above n are 0. No term is left out where n is NaN.
+  double end = std::floor(std::min(to, 2147483647.0)) + 1.0;
+  if (n < end) end = std::floor(n) + 1.0;
+
+  // With 2^31 or more between n and k the term is 1 + k, also for a NaN n; with less, and a
+  // negative k, it is 1 + (n - k).
+  double sum = 0.0;
+  const auto isFar = [n](double at) { return !(n - at < 2147483648.0); };
+  if (k < end && isFar(k)) {
+    const double far =
+        k + lastThatHolds(end - 1.0 - k, [&](double i) { return isFar(k + i); }) + 1.0;
+    const Line line{0.0, 1.0};
+    const double change = std::clamp(-1.0, k, far);
+    sum = addRun(addRun(sum, line, k, change), line, change, far);
+    k = far;
+  }
+  if (k < 0.0) {
+    const double negative = std::min(0.0, end);
+    sum = addRun(sum, {n, -1.0}, k, negative);
+    k = std::max(k, negative);
+  }
+  // From here on no term is negative, so an infinite sum stays.
+  for (; k < end && sum < kInfinity; k += 1.0) sum += Cnk(n, k);
+  return sum;
+}

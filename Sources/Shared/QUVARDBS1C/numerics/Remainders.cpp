@@ -1,0 +1,12 @@
+#include <cmath>
+
+#include "QUVARDBS1C.h"
+
+int32_t Mod(int32_t a, int32_t b) noexcept {
+  if (b == 0) return a;
+  if (b == -1) return 0;  // the lowest integer has no quotient by -1 in 32 bits
+  const int32_t remainder = a % b;
+  return remainder != 0 && (remainder < 0) != (b < 0) ? remainder + b : remainder;
+}
+
+double ModDbl(double a, double b) noexcept { return a - std::floor(a / b) * b; }
