@@ -40,6 +40,11 @@ std::wstring Replace(std::wstring, std::wstring, std::wstring) { return stray();
 std::wstring Replace(std::wstring, const wchar_t*, const wchar_t*) { return stray(); }
 HostBool CommonChar(std::wstring, std::wstring) { return ++strayCalls; }
 int32_t cChrCount(std::wstring, std::wstring) { return ++strayCalls; }
+double sqr(double) noexcept { return ++strayCalls; }
+double Max(double, double) noexcept { return ++strayCalls; }
+double Cnk(double, double) noexcept { return ++strayCalls; }
+double LCD2(double, double) noexcept { return ++strayCalls; }
+HostBool IsLongP(double, double) noexcept { return ++strayCalls; }
 std::wstring DecimalFormat(int32_t) { return stray(); }
 std::wstring OutputFormat(double) { return stray(); }
 std::wstring OptimalFormat(double, int32_t, HostBool, HostBool) { return stray(); }
@@ -49,13 +54,13 @@ namespace {
 void* library = nullptr;
 
 template <typename Function>
-Function* routine(const char* name, Function*) {
+Function* routine(const char* name) {
   auto* const found = reinterpret_cast<Function*>(dlsym(library, name));
   if (found == nullptr) std::fprintf(stderr, "%s is missing\n", name);
   return found;
 }
 
-#define ROUTINE(name) routine(#name, &name)
+#define ROUTINE(name) routine<decltype(name)>(#name)
 
 bool isText(BSTR result, const char16_t* expected) {
   const bool equal = std::u16string(result) == expected;
@@ -90,7 +95,9 @@ int main(int, char** arguments) {
       ROUTINE(VB_CommonChar)(text, less) == -1 && ROUTINE(ChrCount)(text, comma) == 1 &&
       isText(ROUTINE(Cpp_DecimalFormat)(1), u"0.0") &&
       isText(ROUTINE(VB_OutputFormat)(1.0), u"0") &&
-      isText(ROUTINE(VB_OptimalFormat)(1.5, 2, 0, 0), u"0.00");
+      isText(ROUTINE(VB_OptimalFormat)(1.5, 2, 0, 0), u"0.00") && ROUTINE(ASin)(0.6) < 0.7 &&
+      ROUTINE(LogExpAPlusExpB)(-9, -9) < 0 && ROUTINE(SumCnk)(4, 0, 4) == 16 &&
+      ROUTINE(LCDDbl)(6, 4) == 2 && ROUTINE(IsLong)(0.5) == 0;
   std::printf("%s, %d stray calls\n", right ? "right" : "wrong", strayCalls);
   return right && strayCalls == 0 ? 0 : 1;
 }

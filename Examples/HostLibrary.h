@@ -1,0 +1,93 @@
+// The two libraries as a host loads them: by name, at run time, from the program's own folder.
+#ifndef EXAMPLES_HOSTLIBRARY_H
+#define EXAMPLES_HOSTLIBRARY_H
+
+#include <dlfcn.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "QUVARDBS1C.h"
+#include "QUVARDCR1C.h"
+
+class SharedLibrary {
+ public:
+  explicit SharedLibrary(const std::string& file) {
+#ifdef __APPLE__
+    handle_ = dlopen(("@loader_path/" + file).c_str(), RTLD_NOW | RTLD_LOCAL);
+#else
+    handle_ = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);  // searched for in $ORIGIN first
+#endif
+    if (handle_ == nullptr) throw std::runtime_error("cannot load " + file + ": " + dlerror());
+  }
+  SharedLibrary(const SharedLibrary&) = delete;
+  SharedLibrary& operator=(const SharedLibrary&) = delete;
+  ~SharedLibrary() { dlclose(handle_); }
+
+  // An exported routine; it takes the type of the function pointer that it is assigned to.
+  class Routine {
+   public:
+    explicit Routine(void* address) : address_(address) {}
+    template <typename Function>
+    operator Function*() const {
+      return reinterpret_cast<Function*>(address_);
+    }
+
+   private:
+    void* address_;
+  };
+
+  Routine routine(const std::string& name) const {
+    void* const address = dlsym(handle_, name.c_str());
+    if (address == nullptr) throw std::runtime_error("the library has no routine " + name);
+    return Routine(address);
+  }
+
+ private:
+  void* handle_;
+};
+
+// The routines that the report calls, under their own names.
+struct HostLibrary {
+  SharedLibrary strings{"QUVARDCR1C.dll"};
+  SharedLibrary library{"QUVARDBS1C.dll"};
+
+#define QUVARD_ROUTINE(from, name) decltype(&::name) name = (from).routine(#name)
+  QUVARD_ROUTINE(strings, SysAllocString16);
+  QUVARD_ROUTINE(strings, releaseBSTR);
+
+  QUVARD_ROUTINE(library, VB_LocalAN2);
+  QUVARD_ROUTINE(library, VB_UpperFirst);
+  QUVARD_ROUTINE(library, VB_StrLRTrim);
+  QUVARD_ROUTINE(library, VB_StrLeft);
+  QUVARD_ROUTINE(library, VB_StrRight);
+  QUVARD_ROUTINE(library, VB_StrConcat);
+  QUVARD_ROUTINE(library, VB_RemoveChar);
+  QUVARD_ROUTINE(library, VB_RemoveColon);
+  QUVARD_ROUTINE(library, VB_RemoveNonNumericChar);
+  QUVARD_ROUTINE(library, ChrCount);
+  QUVARD_ROUTINE(library, StrFromTo);
+  QUVARD_ROUTINE(library, StrFromChrToChr);
+  QUVARD_ROUTINE(library, StrBetweenChrAndChr);
+  QUVARD_ROUTINE(library, VB_Replace);
+  QUVARD_ROUTINE(library, VB_Replace2);
+  QUVARD_ROUTINE(library, VB_SpStrSp);
+  QUVARD_ROUTINE(library, VB_PStrP);
+  QUVARD_ROUTINE(library, VB_BStrB);
+  QUVARD_ROUTINE(library, VB_SingPlural);
+  QUVARD_ROUTINE(library, VB_QUVARDHTMLProcessor);
+  QUVARD_ROUTINE(library, VB_SetFormat);
+  QUVARD_ROUTINE(library, VB_OutputFormat);
+  QUVARD_ROUTINE(library, VB_OptimalFormat);
+  QUVARD_ROUTINE(library, QuadraticInterpol);
+  QUVARD_ROUTINE(library, LinearInterpol);
+  QUVARD_ROUTINE(library, Cnk);
+  QUVARD_ROUTINE(library, SumCnk);
+  QUVARD_ROUTINE(library, GammaLn);
+  QUVARD_ROUTINE(library, Int05);
+  QUVARD_ROUTINE(library, Int05c);
+  QUVARD_ROUTINE(library, Int05LU);
+#undef QUVARD_ROUTINE
+};
+
+#endif
