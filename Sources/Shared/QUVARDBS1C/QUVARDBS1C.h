@@ -4,29 +4,26 @@
 /// Three kinds of routine are declared here, grouped by topic:
 ///
 /// - **Wide routines** take and give `std::wstring` by value. Each works on its own copy; an
-/// argument
-///   that the caller moves in is not copied. C++ only.
+///   argument that the caller moves in is not copied. C++ only.
 /// - **Host routines** take and give host strings (`BSTR`) and scalars: those named `VB_...`, the
-/// five
-///   `ChrCount`, `StrFromTo`, `StrBetween`, `StrFromChrToChr`, `StrBetweenChrAndChr`, and
+///   five `ChrCount`, `StrFromTo`, `StrBetween`, `StrFromChrToChr`, `StrBetweenChrAndChr`, and
 ///   `Cpp_DecimalFormat`. C and C++.
 /// - **Numeric routines** deal in doubles and 32-bit integers. C and C++.
 ///
 /// What holds for every routine, unless its own contract says otherwise:
 ///
 /// - Lengths, counts and positions are in units: 32-bit units of a `std::wstring`, 16-bit units of
-/// a
-///   host string. No surrogate pair is folded, so they mean the same on both sides.
+///   a host string. No surrogate pair is folded, so they mean the same on both sides.
 /// - An argument is never changed, kept or released. A null host string reads as the empty string.
 /// - A resulting host string is new on every call. The caller owns it and releases it with
 ///   `releaseBSTR` of `QUVARDCR1C`.
 /// - No routine keeps anything between calls or waits for another thread, so any number may run at
-/// once.
+///   once.
 /// - Routines that deal in strings may throw `std::bad_alloc` and nothing else, and leak nothing
-/// when
-///   they do. Numeric routines do not throw.
+///   when they do. Numeric routines do not throw.
+/// - Texts and results are of at most 2,147,483,647 units.
 /// - Text compares unit by unit: case counts and no locale takes part. A blank is the one unit
-/// U+0020.
+///   U+0020.
 ///
 /// The examples are expressions that hold. In them `B(u"...")` stands for a host string of that
 /// text, and a host string that results is compared by its text (and released); `i` and `j` are
@@ -71,6 +68,7 @@ extern "C" {
 /// The text of a host string, up to its first zero unit.
 ///
 /// @param handle  host string; null gives the empty string
+/// @throws std::bad_alloc
 /// @b Example: `convToWstring(B(u"Hello")) == L"Hello"`
 QUVARDBS1C_API std::wstring convToWstring(BSTR handle);
 #endif
@@ -84,6 +82,7 @@ QUVARDBS1C_API std::wstring convToWstring(BSTR handle);
 ///
 /// @param n  number of units; above the length of @p s, or negative: all of @p s
 /// @return   empty if @p n is 0 or @p s is empty
+/// @throws std::bad_alloc
 /// @b Example: `StrLeft(L"Hello", 2) == L"He"`
 QUVARDBS1C_API std::wstring StrLeft(std::wstring s, int32_t n);
 
@@ -91,33 +90,39 @@ QUVARDBS1C_API std::wstring StrLeft(std::wstring s, int32_t n);
 ///
 /// @param n  number of units; above the length of @p s, or negative: all of @p s
 /// @return   empty if @p n is 0 or @p s is empty
+/// @throws std::bad_alloc
 /// @b Example: `StrRight(L"Hello", 2) == L"lo"`
 QUVARDBS1C_API std::wstring StrRight(std::wstring s, int32_t n);
 
 /// The six strings joined in argument order, with nothing between them.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `StrConcat(L"a", L"", L"b", L"", L"", L"c") == L"abc"`
 QUVARDBS1C_API std::wstring StrConcat(std::wstring a, std::wstring b, std::wstring c,
                                       std::wstring d, std::wstring e, std::wstring f);
 
 /// @p s without its leading blanks.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `StrLTrim(L"  a b  ") == L"a b  "`
 QUVARDBS1C_API std::wstring StrLTrim(std::wstring s);
 
 /// @p s without its trailing blanks.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `StrRTrim(L"  a b  ") == L"  a b"`
 QUVARDBS1C_API std::wstring StrRTrim(std::wstring s);
 
 /// @p s without blanks at either end.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `StrLRTrim(L"  a b  ") == L"a b"`
 QUVARDBS1C_API std::wstring StrLRTrim(std::wstring s);
 
 /// @p s with every unit lower-cased under the locale of the process, which this library never sets:
 /// in the default locale A to Z change. A unit without a mapping stays, and so does the length.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `StrLCase(L"AbC-9") == L"abc-9"`
 QUVARDBS1C_API std::wstring StrLCase(std::wstring s);
 #endif
@@ -126,6 +131,7 @@ QUVARDBS1C_API std::wstring StrLCase(std::wstring s);
 ///
 /// @param n  number of units; above the length of @p s, or negative: all of @p s
 /// @return   new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_StrLeft(B(u"Hello"), 2) == B(u"He")`
 QUVARDBS1C_API BSTR VB_StrLeft(BSTR s, int32_t n);
 
@@ -133,30 +139,35 @@ QUVARDBS1C_API BSTR VB_StrLeft(BSTR s, int32_t n);
 ///
 /// @param n  number of units; above the length of @p s, or negative: all of @p s
 /// @return   new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_StrRight(B(u"Hello"), 2) == B(u"lo")`
 QUVARDBS1C_API BSTR VB_StrRight(BSTR s, int32_t n);
 
 /// Host form of StrConcat().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_StrConcat(B(u"a"), B(u"b"), nullptr, nullptr, nullptr, nullptr) == B(u"ab")`
 QUVARDBS1C_API BSTR VB_StrConcat(BSTR a, BSTR b, BSTR c, BSTR d, BSTR e, BSTR f);
 
 /// Host form of StrLTrim().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_StrLTrim(B(u"  a b  ")) == B(u"a b  ")`
 QUVARDBS1C_API BSTR VB_StrLTrim(BSTR s);
 
 /// Host form of StrRTrim().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_StrRTrim(B(u"  a b  ")) == B(u"  a b")`
 QUVARDBS1C_API BSTR VB_StrRTrim(BSTR s);
 
 /// Host form of StrLRTrim().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_StrLRTrim(B(u"  a b  ")) == B(u"a b")`
 QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 
@@ -167,24 +178,30 @@ QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 #ifdef __cplusplus
 /// @p s after a removal that goes on until the whole of @p chars occurs nowhere: each step takes
 /// the first unit out of the leftmost occurrence. With a @p chars of one unit, every such unit
-/// goes. Linear in @p s.
+/// goes.
+///
+/// One pass over @p s, in which each removal reads again at most the length of @p chars.
 ///
 /// @param chars  what to look for; empty: @p s comes back unchanged
+/// @throws std::bad_alloc
 /// @b Example: `RemoveChar(L"xaby", L"ab") == L"xby"`
 QUVARDBS1C_API std::wstring RemoveChar(std::wstring s, std::wstring chars);
 
 /// @p s without any colon, and then without blanks at either end.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `RemoveColon(L" a: :b ") == L"a b"`
 QUVARDBS1C_API std::wstring RemoveColon(std::wstring s);
 
 /// @p s without any semicolon, and then without blanks at either end.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `RemoveSemicolon(L" a;b; ") == L"ab"`
 QUVARDBS1C_API std::wstring RemoveSemicolon(std::wstring s);
 
 /// The digits 0 to 9 of @p s, in their order.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `RemoveNonNumericChar(L"1,234.50") == L"123450"`
 QUVARDBS1C_API std::wstring RemoveNonNumericChar(std::wstring s);
 #endif
@@ -192,18 +209,21 @@ QUVARDBS1C_API std::wstring RemoveNonNumericChar(std::wstring s);
 /// Host form of RemoveChar().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_RemoveChar(B(u"a-b-c"), B(u"-")) == B(u"abc")`
 QUVARDBS1C_API BSTR VB_RemoveChar(BSTR s, BSTR chars);
 
 /// Host form of RemoveNonNumericChar().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_RemoveNonNumericChar(B(u"-1.5")) == B(u"15")`
 QUVARDBS1C_API BSTR VB_RemoveNonNumericChar(BSTR s);
 
 /// @p s without any colon. Unlike RemoveColon() it leaves blanks at the ends in place.
 ///
 /// @return new host string; the null handle for the null handle
+/// @throws std::bad_alloc
 /// @b Example: `VB_RemoveColon(B(u" a:b ")) == B(u" ab ")`
 QUVARDBS1C_API BSTR VB_RemoveColon(BSTR s);
 
@@ -216,6 +236,7 @@ QUVARDBS1C_API BSTR VB_RemoveColon(BSTR s);
 /// end at their first zero unit.
 ///
 /// @return 0 if either is empty
+/// @throws std::bad_alloc
 /// @b Example: `cChrCount(L"aaaaa", L"aa") == 2`
 QUVARDBS1C_API int32_t cChrCount(std::wstring text, std::wstring pattern);
 #endif
@@ -223,12 +244,14 @@ QUVARDBS1C_API int32_t cChrCount(std::wstring text, std::wstring pattern);
 /// Whether @p text and @p chars have a unit in common; host form of CommonChar().
 ///
 /// @return -1 or 0
+/// @throws std::bad_alloc
 /// @b Example: `VB_CommonChar(B(u"abc"), B(u"xyzb")) == -1`
 QUVARDBS1C_API HostBool VB_CommonChar(BSTR text, BSTR chars);
 
 /// Host form of cChrCount().
 ///
 /// @return 0 if either is empty or null
+/// @throws std::bad_alloc
 /// @b Example: `ChrCount(B(u"a,b,c"), B(u",")) == 2`
 QUVARDBS1C_API int32_t ChrCount(BSTR text, BSTR pattern);
 
@@ -236,14 +259,16 @@ QUVARDBS1C_API int32_t ChrCount(BSTR text, BSTR pattern);
 /// @name Slices by position and delimiter (strings/)
 ///
 /// Positions count from 1. Delimiters are of one unit each: of two that are both not empty, one of
-/// two units or more gives the empty string. An empty delimiter is found at the start of the text.
+/// two units or more gives the empty string. An empty delimiter is found where its search begins.
 /// @{
 
 #ifdef __cplusplus
-/// What lies between the first @p opening and the first @p closing behind it, both left out.
+/// What lies between the first @p opening and the first @p closing behind it, both left out. The
+/// slice starts one unit behind the start of @p opening, also if that is empty, and @p closing is
+/// searched from there.
 ///
-/// @return empty if either is not found; with an empty @p opening, the slice starts at the second
-/// unit
+/// @return empty if either is not found, or @p closing is empty
+/// @throws std::bad_alloc
 /// @b Example: `cStrBetweenChrAndChr(L"a(b)c", L"(", L")") == L"b"`
 QUVARDBS1C_API std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring opening,
                                                  std::wstring closing);
@@ -254,6 +279,7 @@ QUVARDBS1C_API std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring
 /// @param from  1 or more
 /// @param to    not beyond the end of @p text
 /// @return      new host string; empty for any other positions, and if @p to lies before @p from
+/// @throws std::bad_alloc
 /// @b Example: `StrFromTo(B(u"abcdef"), 2, 5) == B(u"bcde")`
 QUVARDBS1C_API BSTR StrFromTo(BSTR text, int32_t from, int32_t to);
 
@@ -262,19 +288,23 @@ QUVARDBS1C_API BSTR StrFromTo(BSTR text, int32_t from, int32_t to);
 /// @param from  1 or more
 /// @param to    not beyond the end of @p text
 /// @return      new host string; empty for any other positions, and if @p to is not behind @p from
+/// @throws std::bad_alloc
 /// @b Example: `StrBetween(B(u"abcdef"), 2, 5) == B(u"cd")`
 QUVARDBS1C_API BSTR StrBetween(BSTR text, int32_t from, int32_t to);
 
-/// The text from the first @p opening to the first @p closing, both included. @p closing is
-/// searched from the start of the text.
+/// The text from the first @p opening to the first @p closing, both included. Both are searched
+/// from the start of the text. Of a @p closing of several units, which needs an empty @p opening,
+/// the first unit is included; an empty one counts as the first unit of the text.
 ///
 /// @return new host string; empty if either is not found or @p closing comes first
+/// @throws std::bad_alloc
 /// @b Example: `StrFromChrToChr(B(u"a(b)c"), B(u"("), B(u")")) == B(u"(b)")`
 QUVARDBS1C_API BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing);
 
 /// Host form of cStrBetweenChrAndChr().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `StrBetweenChrAndChr(B(u"a/b/c"), B(u"/"), B(u"/")) == B(u"b")`
 QUVARDBS1C_API BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing);
 
@@ -295,16 +325,16 @@ QUVARDBS1C_API BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing);
 /// @param pattern      what to look for; null: nothing is done, and @p text itself is the result
 /// @param replacement  what to put in its place; null and empty: nothing
 /// @return             new host string; but **the handle @p text itself**, not a copy, if @p text
-/// or
-///                     @p pattern is null
+///                     or @p pattern is null
+/// @throws std::bad_alloc
 /// @b Example: `VB_Replace(B(u"a-b-c"), B(u"-"), B(u"--")) == B(u"a--b--c")`
 QUVARDBS1C_API BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement);
 
 /// @p text with every occurrence of @p pattern1 replaced, and then, in that result, every
-/// occurrence of
-/// @p pattern2. Null handles are empty strings. No argument changes.
+/// occurrence of @p pattern2. Null handles are empty strings. No argument changes.
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_Replace2(B(u"ab"), B(u"a"), B(u"b"), B(u"b"), B(u"c")) == B(u"cc")`
 QUVARDBS1C_API BSTR VB_Replace2(BSTR text, BSTR pattern1, BSTR replacement1, BSTR pattern2,
                                 BSTR replacement2);
@@ -333,6 +363,7 @@ QUVARDBS1C_API BSTR VB_Replace2(BSTR text, BSTR pattern1, BSTR replacement1, BST
 /// @param lowerResult     lowers the first unit of the finished phrase, in US and the noun-first
 ///                        languages only
 /// @param noBlank         makes the separator empty; otherwise it is one blank
+/// @throws std::bad_alloc
 /// @b Example: `LocalAN(L"linear", L"Model", L"US", -1, 0, 0) == L"Linear model"`
 QUVARDBS1C_API std::wstring LocalAN(std::wstring adjective, std::wstring noun,
                                     std::wstring language, HostBool upperAdjective,
@@ -341,11 +372,13 @@ QUVARDBS1C_API std::wstring LocalAN(std::wstring adjective, std::wstring noun,
 /// @p text with its first unit lower-cased, as StrLCase() does it. "JP" leaves the text as it is,
 /// and so does "DE" unless @p forceDE is set. Every other code lowers, an unknown or empty one too.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `LowerFirst(L"Model", L"FR", 0) == L"model"`
 QUVARDBS1C_API std::wstring LowerFirst(std::wstring text, std::wstring language, HostBool forceDE);
 
 /// @p text with its first unit upper-cased under the locale of the process.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `UpperFirst(L"linear") == L"Linear"`
 QUVARDBS1C_API std::wstring UpperFirst(std::wstring text);
 #endif
@@ -353,12 +386,14 @@ QUVARDBS1C_API std::wstring UpperFirst(std::wstring text);
 /// Host form of LocalAN() with upperAdjective True, lowerResult False, noBlank False.
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_LocalAN(B(u"linear"), B(u"Model"), B(u"ES")) == B(u"Model linear")`
 QUVARDBS1C_API BSTR VB_LocalAN(BSTR adjective, BSTR noun, BSTR language);
 
 /// Host form of LocalAN().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_LocalAN2(B(u"linear"), B(u"Model"), B(u"JP"), 0, 0, -1) == B(u"linearModel")`
 QUVARDBS1C_API BSTR VB_LocalAN2(BSTR adjective, BSTR noun, BSTR language, HostBool upperAdjective,
                                 HostBool lowerResult, HostBool noBlank);
@@ -366,12 +401,14 @@ QUVARDBS1C_API BSTR VB_LocalAN2(BSTR adjective, BSTR noun, BSTR language, HostBo
 /// Host form of LowerFirst().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_LowerFirst(B(u"Model"), B(u"DE"), 0) == B(u"Model")`
 QUVARDBS1C_API BSTR VB_LowerFirst(BSTR text, BSTR language, HostBool forceDE);
 
 /// Host form of UpperFirst().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_UpperFirst(B(u"linear")) == B(u"Linear")`
 QUVARDBS1C_API BSTR VB_UpperFirst(BSTR text);
 
@@ -382,16 +419,19 @@ QUVARDBS1C_API BSTR VB_UpperFirst(BSTR text);
 #ifdef __cplusplus
 /// A blank, @p text, a blank.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `SpStrSp(L"and") == L" and "`
 QUVARDBS1C_API std::wstring SpStrSp(std::wstring text);
 
 /// @p text in parentheses.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `PStrP(L"units") == L"(units)"`
 QUVARDBS1C_API std::wstring PStrP(std::wstring text);
 
 /// @p singular if @p count is less than 2, else @p plural.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `SingPlural(L"case", L"cases", 2) == L"cases"`
 QUVARDBS1C_API std::wstring SingPlural(std::wstring singular, std::wstring plural, int32_t count);
 #endif
@@ -399,24 +439,28 @@ QUVARDBS1C_API std::wstring SingPlural(std::wstring singular, std::wstring plura
 /// Host form of SpStrSp().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_SpStrSp(B(u"and")) == B(u" and ")`
 QUVARDBS1C_API BSTR VB_SpStrSp(BSTR text);
 
 /// Host form of PStrP().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_PStrP(B(u"units")) == B(u"(units)")`
 QUVARDBS1C_API BSTR VB_PStrP(BSTR text);
 
 /// @p text in square brackets.
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_BStrB(B(u"1")) == B(u"[1]")`
 QUVARDBS1C_API BSTR VB_BStrB(BSTR text);
 
 /// A copy of @p singular if @p count is less than 2, else of @p plural. The other one is not read.
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_SingPlural(B(u"case"), nullptr, 0) == B(u"case")`
 QUVARDBS1C_API BSTR VB_SingPlural(BSTR singular, BSTR plural, int32_t count);
 
@@ -428,6 +472,7 @@ QUVARDBS1C_API BSTR VB_SingPlural(BSTR singular, BSTR plural, int32_t count);
 /// @p text with its markup tokens turned into the characters that they stand for: `<BR>` into a
 /// line feed, `<QM>` into a double quotation mark, `<CM>` into a comma. Case counts.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `QUVARDHTMLProcessor(L"a<CM> b<BR>") == L"a, b\n"`
 QUVARDBS1C_API std::wstring QUVARDHTMLProcessor(std::wstring text);
 #endif
@@ -435,6 +480,7 @@ QUVARDBS1C_API std::wstring QUVARDHTMLProcessor(std::wstring text);
 /// Host form of QUVARDHTMLProcessor().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_QUVARDHTMLProcessor(B(u"<QM>a<QM>")) == B(u"\"a\"")`
 QUVARDBS1C_API BSTR VB_QUVARDHTMLProcessor(BSTR text);
 
@@ -450,6 +496,7 @@ QUVARDBS1C_API BSTR VB_QUVARDHTMLProcessor(BSTR text);
 /// The pattern with a number of decimals.
 ///
 /// @param decimals  0 or below: the pattern "0"; there is no upper limit but memory
+/// @throws std::bad_alloc
 /// @b Example: `DecimalFormat(2) == L"0.00"`
 QUVARDBS1C_API std::wstring DecimalFormat(int32_t decimals);
 
@@ -459,6 +506,7 @@ QUVARDBS1C_API std::wstring DecimalFormat(int32_t decimals);
 /// @param count           number of elements; below 1 nothing happens
 /// @param digits          digits of the pattern, the one before the point included
 /// @param digitsOverride  if it is not exactly -1, stands in the place of @p digits
+/// @throws std::bad_alloc
 /// @b Example: `[] { std::wstring f[2]; SetFormat(f, 2, 4, -1); return f[1]; }() == L"0.000"`
 QUVARDBS1C_API void SetFormat(std::wstring* formats, int32_t count, int32_t digits,
                               int32_t digitsOverride);
@@ -467,23 +515,26 @@ QUVARDBS1C_API void SetFormat(std::wstring* formats, int32_t count, int32_t digi
 /// whole number (infinities and NaN count as whole), otherwise "0." and 19 times "#". If the value
 /// times 1e19 is not whole by the same test, "E-#" follows.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `OutputFormat(3.0) == L"0"`
 QUVARDBS1C_API std::wstring OutputFormat(double value);
 
 /// The pattern with a chosen number of decimals, in scientific notation where that is asked for and
 /// the value is small for these decimals, or large.
 ///
-/// A number x is whole here if it is less than 1e-12 away from x truncated to a 32-bit integer. The
-/// mantissa is "0" for a whole value, otherwise DecimalFormat(decimals). With e the decimal
-/// logarithm of the magnitude, truncated toward zero, the exponent part is "E-0" if e is below
-/// -decimals ("E-00" from -10 down), "E+0" if e is 5 or more ("E+00" from 10 up), and empty in
-/// between. There is none for a magnitude of 1e-12 or less, for an infinity or for NaN.
+/// A number x is whole here if it is less than 1e-12 away from x truncated toward zero, and that
+/// fits 32 bits; an infinity and NaN are not. The mantissa is "0" for a whole value, otherwise
+/// DecimalFormat(decimals). With e the decimal logarithm of the magnitude, truncated toward zero,
+/// the exponent part is "E-0" if e is below -decimals ("E-00" from -10 down), "E+0" if e is 5 or
+/// more ("E+00" from 10 up), and empty in between. There is none for a magnitude of 1e-12 or less,
+/// for an infinity or for NaN.
 ///
 /// @param value         the value that is to be printed
 /// @param decimals      decimals of the pattern; also the limit for small values
 /// @param useExponent   set: there may be an exponent part
-/// @param keepDecimals  matters only with an exponent part. Set: the mantissa stays as told. Not set:
-///                      it becomes "0" if pow(10, -e) times the value is whole
+/// @param keepDecimals  matters only with an exponent part. Set: the mantissa stays as told. Not
+///                      set: it becomes "0" if pow(10, -e) times the value is whole
+/// @throws std::bad_alloc
 /// @b Example: `OptimalFormat(123456.5, 2, -1, -1) == L"0.00E+0"`
 QUVARDBS1C_API std::wstring OptimalFormat(double value, int32_t decimals, HostBool useExponent,
                                           HostBool keepDecimals);
@@ -492,17 +543,19 @@ QUVARDBS1C_API std::wstring OptimalFormat(double value, int32_t decimals, HostBo
 /// Host form of DecimalFormat().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `Cpp_DecimalFormat(2) == B(u"0.00")`
 QUVARDBS1C_API BSTR Cpp_DecimalFormat(int32_t decimals);
 
 /// Host form of SetFormat(): writes a new host string to each of @p count elements. What an element
-/// held is neither read nor released. If memory runs out, the elements in front hold their new
-/// strings.
+/// held is neither read nor released. If it throws, the elements in front hold their new strings,
+/// so a caller that set all of them to null beforehand can release them.
 ///
 /// @param formats         the first of at least @p count handles
 /// @param count           number of elements; below 1 nothing happens
 /// @param digits          digits of the pattern, the one before the point included
 /// @param digitsOverride  if it is not exactly -1, stands in the place of @p digits
+/// @throws std::bad_alloc
 /// @b Example: `[] { BSTR f[1]; VB_SetFormat(f, 1, 4, 2); return f[0]; }() == B(u"0.0")`
 QUVARDBS1C_API void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits,
                                  int32_t digitsOverride);
@@ -510,12 +563,14 @@ QUVARDBS1C_API void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits,
 /// Host form of OutputFormat().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_OutputFormat(0.5) == B(u"0.###################")`
 QUVARDBS1C_API BSTR VB_OutputFormat(double value);
 
 /// Host form of OptimalFormat().
 ///
 /// @return new host string
+/// @throws std::bad_alloc
 /// @b Example: `VB_OptimalFormat(2.5, 3, 0, 0) == B(u"0.000")`
 QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool useExponent,
                                      HostBool keepDecimals);
@@ -662,16 +717,16 @@ QUVARDBS1C_API double Fact(int32_t n) QUVARDBS1C_NOEXCEPT;
 /// | m below 2                | 1 + q                                                         |
 /// | m from 2                 | r = 1 + q, then for i = 2 to m: r = ((q + i) * r) / i         |
 ///
-/// Fractions and negative numbers are not refused: the table holds for them as it stands.
-/// Where there are passes at all, q is finite and at least m. Each then multiplies r by 2 or more,
-/// but for rounding, so that r is infinite after at most 515 of them, whatever the arguments. No
-/// later pass changes that, and none is run.
+/// Fractions and negative numbers are not refused: the table holds for them as it stands. Where
+/// there are passes at all, q is finite and at least m. Each then multiplies r by 2 or more, but
+/// for rounding, so that r is infinite after at most 515 of them, whatever the arguments. No later
+/// pass changes that, and none is run.
 ///
-/// Accuracy: exact for whole arguments as long as all products stay below 2^53; within 38 units in the
-/// last place for whole n up to 1020.
+/// Accuracy: exact for whole arguments as long as all products stay below 2^53; within 38 units in
+/// the last place for whole n up to 1020.
 ///
-/// @return +infinity if the coefficient, or a product on the way to it, is out of range; 1 + k if
-///         n - k is 2147483648 or more
+/// @return +infinity if the coefficient, or a product on the way to it, is out of range; 1 + k if n
+/// - k is 2147483648 or more
 /// @b Example: `Cnk(49, 6) == 13983816`
 QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
 
@@ -719,8 +774,9 @@ QUVARDBS1C_API int32_t LCD(int32_t a, int32_t b) QUVARDBS1C_NOEXCEPT;
 /// the number (the rounding of decimals and of their products). Made whole, a number within 2^-48
 /// of the nearest whole number (of two, the even one) is that number, any other is truncated.
 ///
-/// @param a, b  both times the power of ten must be below 2147483648 in magnitude; beyond, the
-///              result is a divisor of other numbers
+/// @param a  times the power of ten, below 2147483648 in magnitude; beyond, the result is a divisor
+///           of other numbers
+/// @param b  likewise
 /// @b Example: `LCDDbl(0.29, 0.29) == 0.29`
 QUVARDBS1C_API double LCDDbl(double a, double b) QUVARDBS1C_NOEXCEPT;
 
@@ -758,10 +814,9 @@ QUVARDBS1C_API HostBool IsEvenLng(int32_t n) QUVARDBS1C_NOEXCEPT;
 /// | -2.1        | -2.5  | -2.0   | -2.5                | -2.0                    |
 /// @{
 
-/// @p v moved away from zero: a value that is not whole goes to the next whole number or, with
-/// @p half, to the next multiple of a half. The half point itself goes on to the whole number, and
-/// so does a fraction less than 1e-12 below it. From 2147483647 in magnitude, @p half has no
-/// effect.
+/// @p v moved away from zero: a value that is not whole goes to the next whole number or, with @p
+/// half, to the next multiple of a half. The half point itself goes on to the whole number, and so
+/// does a fraction less than 1e-12 below it. From 2147483647 in magnitude, @p half has no effect.
 ///
 /// @return +0.0 for both zeros; NaN for an infinity or NaN
 /// @b Example: `Int05(2.1, -1) == 2.5`
@@ -803,12 +858,12 @@ QUVARDBS1C_API double Int05LU(double v, HostBool half, HostBool lower) QUVARDBS1
 /// | inverse, slope 0         | -1     | untouched       | untouched                   |
 /// | inverse, any other slope | 0      | written         | read                        |
 ///
-/// Method: a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1), then b + a * x or
-/// (y - b) / a.
+/// Method: a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1), then b + a * x or (y -
+/// b) / a.
 ///
 /// Accuracy: with abscissae, values and the asked one from -1 to 1, x1 and x2 at least 0.1 apart,
-/// absolute error at most 5e-15 forward; with y1 and y2 at least 0.1 apart, 6e-15 inverse. Both scale
-/// with the data. Data far from the origin against their distances lose more.
+/// absolute error at most 5e-15 forward; with y1 and y2 at least 0.1 apart, 6e-15 inverse. Both
+/// scale with the data. Data far from the origin against their distances lose more.
 ///
 /// @b Example: `(x = 2, LinearInterpol(1, 3, 2, 6, &x, &y, -1), y) == 4`
 QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x,
@@ -825,15 +880,16 @@ QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2
 /// | inverse, a not 0        | 0      | lower root    | upper root    | read      |
 /// | inverse, y not reached  | 0      | extreme       | its negative  | read      |
 ///
-/// The extreme is 8.98846567431155e+307 / abs(a), which may be +infinity.
-/// So @p x lies above @p xSecond exactly if the value is not reached.
+/// The extreme is 8.98846567431155e+307 / abs(a), which may be +infinity. So @p x lies above @p
+/// xSecond exactly if the value is not reached.
 ///
 /// Method: c is worked out first, b from c, a from both. Points at 0, and points so near to 0 that
 /// a product vanishes, are passed over where another will do.
 ///
-/// Accuracy: with abscissae, values and the asked one from -1 to 1, abscissae at least 0.1 apart and
-/// 0.01 from 0, absolute error at most 8e-12 forward; with abs(a) at least 0.1 and a discriminant of
-/// at least 0.01, 3e-10 inverse. Closer abscissae, and abscissae closer to 0, lose more.
+/// Accuracy: with abscissae, values and the asked one from -1 to 1, abscissae at least 0.1 apart
+/// and 0.01 from 0, absolute error at most 8e-12 forward; with abs(a) at least 0.1 and a
+/// discriminant of at least 0.01, 3e-10 inverse. Closer abscissae, and abscissae closer to 0, lose
+/// more.
 ///
 /// @b Example: `(x = 5, QuadraticInterpol(1, 2, 4, 0, 0, 6, &x, &xSecond, &y, -1), y) == 12`
 QUVARDBS1C_API int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2,
@@ -856,11 +912,13 @@ QUVARDBS1C_API int32_t QuadraticInterpol(double x1, double x2, double x3, double
 /// Whether @p text and @p chars have a unit in common.
 ///
 /// @return -1 or 0
+/// @throws std::bad_alloc
 /// @b Example: `CommonChar(L"abc", L"xyzb") == -1`
 QUVARDBS1C_API HostBool CommonChar(std::wstring text, std::wstring chars);
 
 /// @p text with every occurrence of @p pattern replaced by @p replacement.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `Replace(L"a,b,c", std::wstring(L","), std::wstring(L", ")) == L"a, b, c"`
 QUVARDBS1C_API std::wstring Replace(std::wstring text, std::wstring pattern,
                                     std::wstring replacement);
@@ -868,6 +926,7 @@ QUVARDBS1C_API std::wstring Replace(std::wstring text, std::wstring pattern,
 /// The same with a pattern and a replacement that end at their first zero unit; neither may be
 /// null.
 ///
+/// @throws std::bad_alloc
 /// @b Example: `Replace(L"aab", L"ab", L"b") == L"ab"`
 QUVARDBS1C_API std::wstring Replace(std::wstring text, const wchar_t* pattern,
                                     const wchar_t* replacement);

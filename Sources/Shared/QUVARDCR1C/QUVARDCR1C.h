@@ -49,7 +49,7 @@ QUVARDCR1C_API void releaseBSTR(BSTR handle);
 ///
 /// @param handle  host string, not null
 /// @return        buffer of the calling thread, which its next call reuses; never released by a
-/// caller
+///                caller
 /// @throws std::bad_alloc
 QUVARDCR1C_API wchar_t* CW162W32(BSTR handle);
 

@@ -1,7 +1,10 @@
 #include "strings/Replacement.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <memory>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -14,6 +17,15 @@ using quvard::PatternSearch;
 using quvard::unitsOf;
 
 namespace {
+
+// Copies units as wide units and returns the end of the copy, which may overlap them further left.
+wchar_t* copied(std::wstring_view units, wchar_t* out) {
+  std::memmove(out, units.data(), units.size() * sizeof(wchar_t));
+  return out + units.size();
+}
+wchar_t* copied(std::u16string_view units, wchar_t* out) {
+  return std::copy(units.begin(), units.end(), out);
+}
 
 // One replacement of a pattern that is not empty, over texts of either width.
 template <typename Unit>
@@ -55,7 +67,7 @@ class Replacing {
     for (std::size_t at = 0; at < text.size();) {
       const std::size_t end = std::min(at + kBlock, text.size());
       if (end - at == kBlock && !quvard::holds(text.data() + at, kBlock, pattern_.front())) {
-        out = std::copy_n(text.data() + at, kBlock, out);
+        out = copied(text.substr(at, kBlock), out);
         at = end;
       }
       while (at < end) {
@@ -78,10 +90,10 @@ class Replacing {
     std::size_t from = 0;
     for (std::size_t at = 0; (at = search_.find(text, from)) != View::npos;
          from = at + pattern_.size()) {
-      out = std::copy(text.data() + from, text.data() + at, out);
-      out = std::copy(replacement_.begin(), replacement_.end(), out);
+      out = copied(text.substr(from, at - from), out);
+      out = copied(replacement_, out);
     }
-    return std::copy(text.data() + from, text.data() + text.size(), out);
+    return copied(text.substr(from), out);
   }
 
   View pattern_;
@@ -89,12 +101,14 @@ class Replacing {
   PatternSearch<Unit> search_;
 };
 
-// Overwrites units in the caller's own storage. A block without a match is not written to.
+// Overwrites units in the caller's own storage. Blocks are aligned, so that none reaches from memory
+// with a match into memory without one, which need not be writable.
 void replaceUnits(char16_t* units, std::size_t length, char16_t pattern, char16_t replacement) {
   constexpr std::size_t kBlock = 64;
-  for (std::size_t start = 0; start < length; start += kBlock) {
+  const std::size_t offset = reinterpret_cast<std::uintptr_t>(units) / sizeof(char16_t) % kBlock;
+  for (std::size_t start = 0, end = kBlock - offset; start < length; start = end, end += kBlock) {
     char16_t* const block = units + start;
-    const std::size_t size = std::min(kBlock, length - start);
+    const std::size_t size = std::min(end, length) - start;
     if (quvard::holds(block, size, pattern)) {
       // Without a branch, so that the compiler makes it a few wide operations.
       std::transform(block, block + size, block, [pattern, replacement](char16_t unit) {
@@ -114,7 +128,9 @@ std::wstring quvard::replaced(std::wstring text, std::wstring_view pattern,
   if (first == text.npos) return text;
   const std::wstring_view rest = std::wstring_view(text).substr(first);
   if (replacing.mayGrow()) {
-    std::wstring result(first + replacing.resultLength(rest), L'\0');
+    const std::size_t length = first + replacing.resultLength(rest);
+    if (length > text.max_size()) throw std::bad_alloc();
+    std::wstring result(length, L'\0');
     replacing.write(rest, std::copy_n(text.data(), first, result.data()));
     return result;
   }
