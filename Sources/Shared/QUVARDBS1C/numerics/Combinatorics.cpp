@@ -20,6 +20,32 @@ constexpr auto kFactorials = [] {
   return factorials;
 }();
 
+// Cnk multiplies from r = 1 + q on in passes i = 2, 3, ... For whole q, r as it is after every 64th
+// pass spares a call all passes but the last ones, each of which waits for the one before.
+constexpr int kStride = 64;
+constexpr int kRows = 7;
+constexpr int kHighestSum = 1023;  // of q and the number of the pass: no product is out of range
+
+constexpr double pass(double r, double q, double i) { return ((q + i) * r) / i; }
+
+// r after pass kStride * row, from q = kStride * row on: there are no more passes than q.
+template <int row>
+constexpr auto kPassed = [] {
+  constexpr int last = kStride * row;
+  std::array<double, kHighestSum + 1 - 2 * last> passed{};
+  for (std::size_t at = 0; at < passed.size(); ++at) {
+    const double q = static_cast<double>(at) + last;
+    double r = 1.0 + q;
+    if constexpr (row > 1) r = kPassed<row - 1>[at + kStride];
+    for (int i = row > 1 ? last - kStride + 1 : 2; i <= last; ++i) r = pass(r, q, i);
+    passed[at] = r;
+  }
+  return passed;
+}();
+constexpr const double* kPassedRows[kRows] = {
+    kPassed<1>.data(), kPassed<2>.data(), kPassed<3>.data(), kPassed<4>.data(),
+    kPassed<5>.data(), kPassed<6>.data(), kPassed<7>.data()};
+
 // The terms 1 + (origin + step * k) for whole k, rounded in that order; step is 1 or -1. As long as
 // inner sum and term stay each in one binade, terms of neighbours differ by exactly step.
 struct Line {
@@ -70,10 +96,11 @@ double addOneByOne(double sum, const Line& line, double k, double end) {
 // as many as stay within the binade are then added at once. Every number in that is a multiple of
 // ulp of at most 2^53 * ulp, and so exact.
 double addRun(double sum, const Line& line, double k, double end) {
-  for (;;) {
+  constexpr double kShort = 64.0;
+  while (end - k >= kShort) {
     const double ulp = std::nextafter(std::fabs(sum), kInfinity) - std::fabs(sum);
     const double period = 2.0 * std::max(1.0, ulp);
-    if (end - k < 3.0 * period) return addOneByOne(sum, line, k, end);
+    if (end - k < 3.0 * period) break;
 
     const double first = k;
     const double start = sum;
@@ -97,6 +124,7 @@ double addRun(double sum, const Line& line, double k, double end) {
     sum = sumAfter(periods);
     k += periods * period;
   }
+  return addOneByOne(sum, line, k, end);
 }
 
 }  // namespace
@@ -115,37 +143,51 @@ double Cnk(double n, double k) noexcept {
   const int32_t m = isFirstSideShorter ? quvard::TruncLng(k) : rest;
   const double q = isFirstSideShorter ? n - m : k;
   double r = 1.0 + q;
-  // Where there is a pass at all, q is finite and at least m. So each pass multiplies r by about 2
-  // or more, r is infinite after at most some 515 of them, and then stays infinite.
-  for (double i = 2.0; i <= m && r < kInfinity; i += 1.0) r = ((q + i) * r) / i;
+  // Where there is a pass at all, q is finite and at least m. So each pass multiplies r by 2 or
+  // more, but for rounding, and an infinite r stays infinite.
+  int32_t done = 1;
+  if (m >= kStride && q < kHighestSum && q == std::floor(q)) {
+    const int32_t whole = static_cast<int32_t>(q);
+    if (const int32_t row = std::min(m, kHighestSum - whole) / kStride; row > 0) {
+      done = row * kStride;
+      r = kPassedRows[row - 1][whole - done];
+    }
+  }
+  while (done < m) {
+    // One of the doublings left over for what rounding takes.
+    if (m - done > kStride && std::ldexp(r, m - done - 1) == kInfinity) return kInfinity;
+    const int32_t end = std::min(m, done + kStride);
+    for (double i = done + 1; i <= end; i += 1.0) r = pass(r, q, i);
+    done = end;
+  }
   return r;
 }
 
 double SumCnk(double n, double from, double to) noexcept {
   double k = quvard::TruncLng(from);
   if (!(to >= k)) return 0.0;
-  // All terms above n are 0. No term is left out where n is NaN.
-  double end = std::floor(std::min(to, 2147483647.0)) + 1.0;
-  if (n < end) end = std::floor(n) + 1.0;
+  to = std::min(to, 2147483647.0);
+  if (n < to) to = n;  // all terms above n are 0
 
-  // With 2^31 or more between n and k the term is 1 + k, also for a NaN n; with less, and a
-  // negative k, it is 1 + (n - k).
+  // With 2^31 or more between n and k, or a NaN n, the term is 1 + k; with less, and a negative k,
+  // it is 1 + (n - k).
   double sum = 0.0;
   const auto isFar = [n](double at) { return !(n - at < 2147483648.0); };
-  if (k < end && isFar(k)) {
-    const double far =
-        k + lastThatHolds(end - 1.0 - k, [&](double i) { return isFar(k + i); }) + 1.0;
-    const Line line{0.0, 1.0};
-    const double change = std::clamp(-1.0, k, far);
-    sum = addRun(addRun(sum, line, k, change), line, change, far);
-    k = far;
+  if (k <= to && isFar(k)) {
+    const double start = k;
+    const auto isStillFar = [&](double i) { return isFar(start + i); };
+    const double end = start + lastThatHolds(std::floor(to) - start, isStillFar) + 1.0;
+    const double change = std::clamp(-1.0, start, end);
+    sum = addRun(sum, {0.0, 1.0}, start, change);
+    sum = addRun(sum, {0.0, 1.0}, change, end);
+    k = end;
   }
-  if (k < 0.0) {
-    const double negative = std::min(0.0, end);
-    sum = addRun(sum, {n, -1.0}, k, negative);
-    k = std::max(k, negative);
+  if (k <= to && k < 0.0) {
+    const double end = std::min(0.0, std::floor(to) + 1.0);
+    sum = addRun(sum, {n, -1.0}, k, end);
+    k = end;
   }
-  // From here on no term is negative, so an infinite sum stays.
-  for (; k < end && sum < kInfinity; k += 1.0) sum += Cnk(n, k);
+  // From here on no term is negative, so that an infinite sum stays.
+  for (; k <= to && sum < kInfinity; k += 1.0) sum += Cnk(n, k);
   return sum;
 }

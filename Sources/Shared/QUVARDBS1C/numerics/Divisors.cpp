@@ -1,6 +1,6 @@
 #include <algorithm>
+#include <bit>
 #include <cmath>
-#include <numeric>
 
 #include "QUVARDBS1C.h"
 #include "numerics/Constants.h"
@@ -12,6 +12,27 @@ namespace {
 uint32_t magnitude(int32_t n) {
   const auto bits = static_cast<uint32_t>(n);
   return n < 0 ? 0U - bits : bits;
+}
+
+// The largest common divisor. One division brings a far larger number down; from there subtractions
+// and shifts (binary algorithm, J. Stein, 1967) take half the time of further divisions, and of
+// std::gcd.
+uint32_t commonDivisor(uint32_t a, uint32_t b) {
+  if (b == 0) return a;
+  a %= b;
+  if (a == 0) return b;
+  const int twos = std::countr_zero(a | b);
+  b >>= std::countr_zero(b);
+  int zeros = std::countr_zero(a);
+  while (a != 0) {
+    a >>= zeros;
+    const int64_t difference = int64_t{b} - int64_t{a};
+    // Found before the branches that follow are, and alike for either sign.
+    zeros = std::countr_zero(static_cast<uint32_t>(difference));
+    b = std::min(a, b);
+    a = static_cast<uint32_t>(difference < 0 ? -difference : difference);
+  }
+  return b << twos;
 }
 
 // Whole but for the rounding of a decimal and of up to 28 multiplications by 10, which together
@@ -32,13 +53,13 @@ double wholeNumber(double t) { return isNearWhole(t) ? std::nearbyint(t) : std::
 }  // namespace
 
 int32_t LCD(int32_t a, int32_t b) noexcept {
-  return static_cast<int32_t>(std::gcd(magnitude(a), magnitude(b)));
+  return static_cast<int32_t>(commonDivisor(magnitude(a), magnitude(b)));
 }
 
 double LCD2(double a, double b) noexcept {
   if (b == 0.0) return std::fabs(a);
   const uint32_t divisor = magnitude(quvard::TruncLng(b));
-  const uint32_t common = std::gcd(magnitude(quvard::TruncLng(a)), divisor);
+  const uint32_t common = commonDivisor(magnitude(quvard::TruncLng(a)), divisor);
   return common == divisor ? std::fabs(b) : common;
 }
 

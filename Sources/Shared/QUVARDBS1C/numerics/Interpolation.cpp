@@ -16,36 +16,30 @@ struct Parabola {
 
 bool isNumberOtherThanZero(double value) { return value < 0.0 || value > 0.0; }
 
-// The constant term. The determinant is x_i * (x_k - x_j) but for rounding, and so 0 for a point at
-// 0: the points are turned until it is not.
-double constantTerm(const Point (&p)[3]) {
-  for (int turn = 0;; ++turn) {
-    const auto& [xi, yi] = p[turn];
-    const auto& [xj, yj] = p[(turn + 1) % 3];
-    const auto& [xk, yk] = p[(turn + 2) % 3];
-    const double determinant = (xi + xj) * xk - (xi + xk) * xj;
-    if (turn < 2 && !isNumberOtherThanZero(determinant)) continue;
-    const double factor = (1.0 / determinant) / ((xj - xi) * (xk - xi));
-    const double first = (xj * xj * yi - xi * xi * yj) * ((xk - xi) * xk);
-    const double second = (xi * xi * yk - xk * xk * yi) * ((xj - xi) * xj);
-    return (second + first) * factor;
-  }
+// The constant term. The determinant is i.x * (k.x - j.x) but for rounding, and so 0 for a point at
+// 0: the points are turned, up to twice, until it is not.
+double constantTerm(const Point& i, const Point& j, const Point& k, int turns = 2) {
+  const double determinant = (i.x + j.x) * k.x - (i.x + k.x) * j.x;
+  if (turns > 0 && !isNumberOtherThanZero(determinant)) return constantTerm(j, k, i, turns - 1);
+  const double factor = (1.0 / determinant) / ((j.x - i.x) * (k.x - i.x));
+  const double first = (j.x * j.x * i.y - i.x * i.x * j.y) * ((k.x - i.x) * k.x);
+  const double second = (i.x * i.x * k.y - k.x * k.x * i.y) * ((j.x - i.x) * j.x);
+  return (second + first) * factor;
 }
 
 // The linear term, from two points that are not at 0.
-double linearTerm(const Point (&p)[3], double c) {
-  for (int turn = 0;; ++turn) {
-    const auto& [xi, yi] = p[turn];
-    const auto& [xj, yj] = p[(turn + 1) % 3];
-    if (turn < 2 && !isNumberOtherThanZero(xi * xj)) continue;
-    return ((xj * xj * yi + (xi * xi - xj * xj) * c) - xi * xi * yj) / ((xi * xj) * (xj - xi));
-  }
+double linearTerm(const Point& i, const Point& j, const Point& k, double c, int turns = 2) {
+  const double product = i.x * j.x;
+  if (turns > 0 && !isNumberOtherThanZero(product)) return linearTerm(j, k, i, c, turns - 1);
+  const double ii = i.x * i.x;
+  const double jj = j.x * j.x;
+  return ((jj * i.y + (ii - jj) * c) - ii * j.y) / (product * (j.x - i.x));
 }
 
-Parabola parabolaThrough(const Point (&p)[3]) {
-  const double c = constantTerm(p);
-  const double b = linearTerm(p, c);
-  const auto& [x, y] = p[p[0].x * p[0].x == 0.0 ? 1 : 0];
+Parabola parabolaThrough(const Point& p1, const Point& p2, const Point& p3) {
+  const double c = constantTerm(p1, p2, p3);
+  const double b = linearTerm(p1, p2, p3, c);
+  const auto& [x, y] = p1.x * p1.x == 0.0 ? p2 : p1;
   return {((y - x * b) - c) / (x * x), b, c};
 }
 
@@ -72,7 +66,7 @@ int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x, do
 int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2, double y3,
                           double* x, double* xSecond, double* y, HostBool forward) noexcept {
   if (x2 == x3 || x1 == x2 || x1 == x3) return kDegenerate;
-  const auto [a, b, c] = parabolaThrough({{x1, y1}, {x2, y2}, {x3, y3}});
+  const auto [a, b, c] = parabolaThrough({x1, y1}, {x2, y2}, {x3, y3});
   if (quvard::isTrue(forward)) {
     *y = c + (b + a * *x) * *x;
     return kComputed;
