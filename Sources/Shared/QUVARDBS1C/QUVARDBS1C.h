@@ -734,7 +734,7 @@ QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
 ///
 /// The result has the bits of the addition term by term, also over billions of terms; long ranges
 /// of terms that grow by steps of 1 are added in closed form. A call takes longest for a fractional
-/// @p n near 1020: 1 to 2 milliseconds.
+/// @p n near 1020: about a millisecond.
 ///
 /// @param from  truncated toward zero; outside the 32-bit range it counts as -2147483648
 /// @param to    the sum ends at the last whole number not above it, and at 2147483647 in any case

@@ -26,25 +26,65 @@ constexpr int kStride = 64;
 constexpr int kRows = 7;
 constexpr int kHighestSum = 1023;  // of q and the number of the pass: no product is out of range
 
-constexpr double pass(double r, double q, double i) { return ((q + i) * r) / i; }
+// r after the passes from first to last.
+constexpr double passed(double r, double q, int first, int last) {
+  double i = first;
+  for (int pass = first; pass <= last; ++pass, i += 1.0) r = ((q + i) * r) / i;
+  return r;
+}
 
 // r after pass kStride * row, from q = kStride * row on: there are no more passes than q.
 template <int row>
 constexpr auto kPassed = [] {
   constexpr int last = kStride * row;
-  std::array<double, kHighestSum + 1 - 2 * last> passed{};
-  for (std::size_t at = 0; at < passed.size(); ++at) {
+  std::array<double, kHighestSum + 1 - 2 * last> results{};
+  for (std::size_t at = 0; at < results.size(); ++at) {
     const double q = static_cast<double>(at) + last;
-    double r = 1.0 + q;
-    if constexpr (row > 1) r = kPassed<row - 1>[at + kStride];
-    for (int i = row > 1 ? last - kStride + 1 : 2; i <= last; ++i) r = pass(r, q, i);
-    passed[at] = r;
+    if constexpr (row == 1) {
+      results[at] = passed(1.0 + q, q, 2, last);
+    } else {
+      results[at] = passed(kPassed<row - 1>[at + kStride], q, last - kStride + 1, last);
+    }
   }
-  return passed;
+  return results;
 }();
 constexpr const double* kPassedRows[kRows] = {
     kPassed<1>.data(), kPassed<2>.data(), kPassed<3>.data(), kPassed<4>.data(),
     kPassed<5>.data(), kPassed<6>.data(), kPassed<7>.data()};
+
+// The coefficient of q + m over m, with kStride passes or more. q is finite and at least m where
+// there is a pass at all. So each pass multiplies r by 2 or more, but for rounding, and an infinite
+// r stays infinite.
+double coefficient(double q, int m) {
+  double r = 1.0 + q;
+  int done = 1;
+  if (q < kHighestSum && q == std::floor(q)) {
+    const int whole = static_cast<int>(q);
+    if (const int row = std::min(m, kHighestSum - whole) / kStride; row > 0) {
+      done = row * kStride;
+      r = kPassedRows[row - 1][whole - done];
+    }
+  }
+  for (; m - done > kStride; done += kStride) {
+    // One of the doublings is left over for what rounding takes.
+    if (std::ldexp(r, m - done - 1) == kInfinity) return kInfinity;
+    r = passed(r, q, done + 1, done + kStride);
+  }
+  return passed(r, q, done + 1, m);
+}
+
+// Cnk, inline for the sake of SumCnk.
+inline double binomial(double n, double k) {
+  if (k > n) return 0.0;
+  if (k == n || k == 0.0) return 1.0;
+  int32_t m = quvard::TruncLng(n - k);
+  double q = k;
+  if (m > k) {
+    m = quvard::TruncLng(k);
+    q = n - m;
+  }
+  return m < kStride ? passed(1.0 + q, q, 2, m) : coefficient(q, m);
+}
 
 // The terms 1 + (origin + step * k) for whole k, rounded in that order; step is 1 or -1. As long as
 // inner sum and term stay each in one binade, terms of neighbours differ by exactly step.
@@ -135,33 +175,7 @@ double Fact(int32_t n) noexcept {
   return index < kFactorials.size() ? kFactorials[index] : kInfinity;
 }
 
-double Cnk(double n, double k) noexcept {
-  if (k > n) return 0.0;
-  if (k == n || k == 0.0) return 1.0;
-  const int32_t rest = quvard::TruncLng(n - k);
-  const bool isFirstSideShorter = rest > k;
-  const int32_t m = isFirstSideShorter ? quvard::TruncLng(k) : rest;
-  const double q = isFirstSideShorter ? n - m : k;
-  double r = 1.0 + q;
-  // Where there is a pass at all, q is finite and at least m. So each pass multiplies r by 2 or
-  // more, but for rounding, and an infinite r stays infinite.
-  int32_t done = 1;
-  if (m >= kStride && q < kHighestSum && q == std::floor(q)) {
-    const int32_t whole = static_cast<int32_t>(q);
-    if (const int32_t row = std::min(m, kHighestSum - whole) / kStride; row > 0) {
-      done = row * kStride;
-      r = kPassedRows[row - 1][whole - done];
-    }
-  }
-  while (done < m) {
-    // One of the doublings left over for what rounding takes.
-    if (m - done > kStride && std::ldexp(r, m - done - 1) == kInfinity) return kInfinity;
-    const int32_t end = std::min(m, done + kStride);
-    for (double i = done + 1; i <= end; i += 1.0) r = pass(r, q, i);
-    done = end;
-  }
-  return r;
-}
+double Cnk(double n, double k) noexcept { return binomial(n, k); }
 
 double SumCnk(double n, double from, double to) noexcept {
   double k = quvard::TruncLng(from);
@@ -188,6 +202,6 @@ double SumCnk(double n, double from, double to) noexcept {
     k = end;
   }
   // From here on no term is negative, so that an infinite sum stays.
-  for (; k <= to && sum < kInfinity; k += 1.0) sum += Cnk(n, k);
+  for (; k <= to && sum < kInfinity; k += 1.0) sum += binomial(n, k);
   return sum;
 }

@@ -2,10 +2,11 @@
 
 #include "QUVARDBS1C.h"
 #include "numerics/Constants.h"
+#include "numerics/GuardedRoot.h"
 
 double Pi(void) noexcept { return quvard::kPi; }
 
-double sqr(double x) noexcept { return 0.0 > x ? -quvard::ExtremeDbl : std::sqrt(x); }
+double sqr(double x) noexcept { return quvard::guardedRoot(x); }
 
 double Log10(double x) noexcept { return std::log10(x); }
 
@@ -21,7 +22,7 @@ double ASin(double x) noexcept {
   if (x == 0.0) return 0.0;
   if (x == -1.0) return -quvard::kHalfPi;
   if (x == 1.0) return quvard::kHalfPi;
-  return std::atan(x / sqr((1.0 - x) * (x + 1.0)));
+  return std::atan(x / quvard::guardedRoot((1.0 - x) * (x + 1.0)));
 }
 
 double Min(double a, double b) noexcept { return a < b ? a : b; }

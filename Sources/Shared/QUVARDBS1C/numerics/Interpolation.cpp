@@ -1,5 +1,6 @@
 #include "QUVARDBS1C.h"
 #include "host/HostBool.h"
+#include "numerics/GuardedRoot.h"
 
 namespace {
 
@@ -78,7 +79,7 @@ int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2,
   }
   // A value that the parabola never reaches gives a root of -ExtremeDbl here, and so the roots in
   // the wrong order.
-  const double root = sqr((c - *y) * (-4.0 * a) + b * b);
+  const double root = quvard::guardedRoot((c - *y) * (-4.0 * a) + b * b);
   const double minus = -b - root;
   const double plus = root - b;
   *x = ((a > 0.0 ? minus : plus) * 0.5) / a;
