@@ -4,20 +4,25 @@
 
 #include <dlfcn.h>
 
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 
 #include "QUVARDBS1C.h"
 #include "QUVARDCR1C.h"
 
+#ifdef __APPLE__
+inline std::string programFolder() { return "@executable_path"; }  // which dlopen knows
+#else
+inline std::string programFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
+}
+#endif
+
 class SharedLibrary {
  public:
   explicit SharedLibrary(const std::string& file) {
-#ifdef __APPLE__
-    handle_ = dlopen(("@loader_path/" + file).c_str(), RTLD_NOW | RTLD_LOCAL);
-#else
-    handle_ = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);  // searched for in $ORIGIN first
-#endif
+    handle_ = dlopen((programFolder() + "/" + file).c_str(), RTLD_NOW | RTLD_LOCAL);
     if (handle_ == nullptr) throw std::runtime_error("cannot load " + file + ": " + dlerror());
   }
   SharedLibrary(const SharedLibrary&) = delete;
