@@ -82,8 +82,12 @@ class Replacing {
     return out;
   }
 
+  // Whether an occurrence stands where its first unit does.
   bool standsAt(View text, std::size_t at) const {
-    return text.substr(at, pattern_.size()) == pattern_;
+    if (text.size() - at < pattern_.size()) return false;
+    std::size_t i = 1;
+    while (i < pattern_.size() && text[at + i] == pattern_[i]) ++i;
+    return i == pattern_.size();
   }
 
   wchar_t* writeBySearch(View text, wchar_t* out) const {
