@@ -675,7 +675,7 @@ QUVARDBS1C_API void SwapDbl(double* a, double* b) QUVARDBS1C_NOEXCEPT;
 /// Exchanges the host strings that two variables hold. No text is touched, nothing is allocated or
 /// released.
 ///
-/// @b Example: `[] { B s(u"s"); BSTR a = s; BSTR b = nullptr; SwapStr(&a, &b); return b == BSTR(s); }()`
+/// @b Example: `[] { B t(u"t"); BSTR a = t; BSTR b = nullptr; SwapStr(&a, &b); return !a && b; }()`
 QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 
 /// @}
@@ -888,8 +888,7 @@ QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2
 ///
 /// Accuracy: with abscissae, values and the asked one from -1 to 1, abscissae at least 0.1 apart
 /// and 0.01 from 0, absolute error at most 8e-12 forward; with abs(a) at least 0.1 and a
-/// discriminant of at least 0.01, 3e-10 inverse. Closer abscissae, and abscissae closer to 0, lose
-/// more.
+/// discriminant of at least 0.01, 3e-10 inverse. Abscissae closer together or to 0 lose more.
 ///
 /// @b Example: `(x = 5, QuadraticInterpol(1, 2, 4, 0, 0, 6, &x, &xSecond, &y, -1), y) == 12`
 QUVARDBS1C_API int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2,
