@@ -8,7 +8,7 @@ foreach(way find_package add_subdirectory)
   add_test(NAME Consumer.${way}
     COMMAND "${CMAKE_CTEST_COMMAND}" --build-and-test
       "${CMAKE_CURRENT_SOURCE_DIR}/consumer" "${CMAKE_CURRENT_BINARY_DIR}/consumer-${way}"
-      --build-generator "${CMAKE_GENERATOR}" --build-makeprogram "${CMAKE_MAKE_PROGRAM}"
+      --build-noclean --build-generator "${CMAKE_GENERATOR}" --build-makeprogram "${CMAKE_MAKE_PROGRAM}"
       --build-options
         -DCONSUMER_WAY=${way}
         "-DCONSUMER_SOURCES=${PROJECT_SOURCE_DIR}"
