@@ -1,73 +1,41 @@
 #include "QUVARDCR1C.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <memory>
 #include <thread>
-#include <vector>
 
 #include "support/HostStrings.h"
 
-namespace {
-
 TEST(Services, EveryUnitInAndOut) {
-  std::u16string all;
-  std::wstring wide;
-  for (std::uint32_t value = 1; value <= 0xFFFF; ++value) {
-    all.push_back(static_cast<char16_t>(value));
-    wide.push_back(static_cast<wchar_t>(value));
-  }
+  const Text wide = allUnits();
+  const std::u16string all = narrowed(wide);
   EXPECT_EQ(wcslen16(all.c_str()), 0xFFFFU);
-  const B host(all);
-  EXPECT_EQ(host.text(), all);
-  EXPECT_NE(static_cast<const char16_t*>(host), all.c_str());
-  BSTR handle = host;
-  EXPECT_EQ(CW162W32(host), wide);
+  BSTR handle = SysAllocString16(all.c_str());
+  EXPECT_EQ(CW162W32(handle), wide);
   EXPECT_EQ(convertBSTRtoWstring(handle), wide);
+  EXPECT_EQ(taken(handle), wide);
   EXPECT_EQ(taken(SysAllocString2(wide.c_str())), wide);
   EXPECT_EQ(taken(convertWstringToBSTR(wide)), wide);
 }
 
 TEST(Services, UnitsBeyond16BitsGoOut) {
-  struct Row {
-    std::vector<std::uint32_t> wide;
-    std::u16string units;
-  };
-  const std::vector<Row> rows{
-      {{0x10000}, {0xD800, 0xDC00}},
-      {{0x103FF}, {0xD800, 0xDFFF}},
-      {{0x10400}, {0xD801, 0xDC00}},
-      {{0x1F600}, {0xD83D, 0xDE00}},
-      {{0x10FFFF}, {0xDBFF, 0xDFFF}},
-      {{0x110000}, {0xFFFD}},
-      {{0x7FFFFFFF}, {0xFFFD}},
-      {{0x80000000}, {0xFFFD}},
-      {{0xFFFFFFFF}, {0xFFFD}},
-      {{'a', 0x10001, 'b', 0x110000, 'c', 0xD83D, 0xFFFF},
-       {'a', 0xD800, 0xDC01, 'b', 0xFFFD, 'c', 0xD83D, 0xFFFF}},
-  };
-  for (const Row& row : rows) {
-    const std::wstring wide(row.wide.begin(), row.wide.end());
-    EXPECT_EQ(taken(SysAllocString2(wide.c_str())), widened(row.units));
-    EXPECT_EQ(taken(convertWstringToBSTR(wide)), widened(row.units));
+  for (const auto& [wide, units] :
+       {row(L"\x10000", L"\xD800\xDC00"), row(L"\x103FF", L"\xD800\xDFFF"),
+        row(L"\x10400", L"\xD801\xDC00"), row(L"\x1F600", L"\xD83D\xDE00"),
+        row(L"\x10FFFF", L"\xDBFF\xDFFF"), row(L"\x110000", L"\xFFFD"),
+        row(L"\x7FFFFFFF", L"\xFFFD"), row(L"\x80000000", L"\xFFFD"), row(L"\xFFFFFFFF", L"\xFFFD"),
+        row(L"x\x10001y\x110000z\xD83D\xFFFF", L"x\xD800\xDC01y\xFFFDz\xD83D\xFFFF")}) {
+    EXPECT_EQ(taken(SysAllocString2(wide)), units);
+    EXPECT_EQ(taken(convertWstringToBSTR(wide)), units);
   }
 }
 
 TEST(Services, TextEndsAtItsFirstZeroUnit) {
   char16_t units[] = u"ab\0cd";
-  BSTR handle = units;
+  BSTR handle = units, null = nullptr;
   EXPECT_EQ(wcslen16(units), 2U);
   EXPECT_EQ(taken(SysAllocString16(units)), L"ab");
   EXPECT_EQ(convertBSTRtoWstring(handle), L"ab");
-  EXPECT_EQ(taken(convertWstringToBSTR(std::wstring(L"ab\0cd", 5))), L"ab");
-}
-
-TEST(Services, NullGivesTheEmptyString) {
-  BSTR null = nullptr;
-  EXPECT_EQ(convertBSTRtoWstring(null), L"");
-  EXPECT_EQ(taken(SysAllocString16(nullptr)), L"");
-  releaseBSTR(nullptr);
+  EXPECT_EQ(taken(convertWstringToBSTR(L"ab\0cd"s)), L"ab");
+  EXPECT_EQ(convertBSTRtoWstring(null) + taken(SysAllocString16(nullptr)), L"");
 }
 
 TEST(Services, WideBufferIsReusedAndEachThreadHasItsOwn) {
@@ -77,16 +45,13 @@ TEST(Services, WideBufferIsReusedAndEachThreadHasItsOwn) {
   wchar_t* ofThread = nullptr;
   std::thread([&] { ofThread = CW162W32(small); }).join();
   EXPECT_NE(ofThread, first);
-  EXPECT_EQ(first, std::wstring(L"other"));
+  EXPECT_EQ(first, L"other"s);
 }
 
 TEST(Services, WideBufferFitsTextsOfAnyLength) {
   // Lengths around the sizes at which the buffer grows and is given back, up and down.
-  for (const std::size_t length :
-       {255U, 256U, 257U, 4095U, 1U << 20, (1U << 20) - 1, 3U << 20, 9U}) {
-    const std::wstring wide(length, L'x');
+  for (const std::size_t length : {255, 256, 257, 4095, 1 << 20, (1 << 20) - 1, 3 << 20, 9}) {
+    const Text wide(length, L'x');
     ASSERT_EQ(CW162W32(B(wide)), wide) << length;
   }
 }
-
-}  // namespace

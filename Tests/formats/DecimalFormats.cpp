@@ -1,70 +1,26 @@
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <limits>
-#include <vector>
-
+#include "support/Doubles.h"
 #include "support/HostStrings.h"
 
-namespace {
-
-constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
-
 TEST(DecimalFormats, ByDecimals) {
-  struct Row {
-    std::int32_t decimals;
-    std::wstring pattern;
-  };
-  const std::vector<Row> rows{{kLowest, L"0"},
-                              {-1, L"0"},
-                              {0, L"0"},
-                              {1, L"0.0"},
-                              {2, L"0.00"},
-                              {3, L"0.000"},
-                              {1000, L"0." + std::wstring(1000, L'0')}};
-  for (const Row& row : rows) {
-    EXPECT_EQ(DecimalFormat(row.decimals), row.pattern);
-    EXPECT_EQ(taken(Cpp_DecimalFormat(row.decimals)), row.pattern);
-  }
+  EXPECT_EQ(DecimalFormat(kLowest) + DecimalFormat(-1) + DecimalFormat(0), L"000");
+  EXPECT_EQ(DecimalFormat(1), L"0.0");
+  EXPECT_EQ(DecimalFormat(3), L"0.000");
 }
 
 TEST(DecimalFormats, ByDigitsIntoAnArray) {
-  struct Row {
-    std::int32_t digits, digitsOverride;
-    std::wstring pattern;
-  };
-  const std::vector<Row> rows{
-      {4, -1, L"0.000"},   {1, -1, L"0"},      {0, -1, L"0"},   {-5, -1, L"0"},
-      {4, 2, L"0.0"},      {4, 0, L"0"},       {4, -2, L"0"},   {4, 1, L"0"},
-      {kLowest, -1, L"0"}, {4, kLowest, L"0"}, {2, -1, L"0.0"}, {-1, 3, L"0.00"},
-  };
-  for (const Row& row : rows) {
-    std::wstring wide[] = {L"x", L"x", L"x", L"stays"};
-    SetFormat(wide, 3, row.digits, row.digitsOverride);
-    BSTR host[4] = {};
-    VB_SetFormat(host, 3, row.digits, row.digitsOverride);
-    EXPECT_NE(host[0], host[1]);
-    for (int i = 0; i < 3; ++i) {
-      EXPECT_EQ(wide[i], row.pattern);
-      EXPECT_EQ(taken(host[i]), row.pattern);
+  for (const auto& [digits, digitsOverride, pattern] :
+       {row(4, -1, L"0.000"), row(2, -1, L"0.0"), row(1, -1, L"0"), row(0, -1, L"0"),
+        row(-5, -1, L"0"), row(kLowest, -1, L"0"), row(4, 2, L"0.0"), row(4, 1, L"0"),
+        row(4, 0, L"0"), row(4, -2, L"0"), row(4, kLowest, L"0"), row(-1, 3, L"0.00")}) {
+    for (const std::int32_t count : {kLowest, -1, 0, 1, 2, 3}) {
+      std::vector<Text> wide(4, L"stays");
+      SetFormat(wide.data(), count, digits, digitsOverride);
+      std::vector<BSTR> host(4);
+      VB_SetFormat(host.data(), count, digits, digitsOverride);
+      for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(wide[i], i < count ? pattern : L"stays");
+        EXPECT_EQ(taken(host[i]), i < count ? pattern : L"(null handle)");
+      }
     }
-    EXPECT_EQ(wide[3], L"stays");
-    EXPECT_EQ(host[3], nullptr);
   }
 }
-
-TEST(DecimalFormats, CountBelowOneWritesNothing) {
-  for (const std::int32_t count : {0, -1, kLowest}) {
-    std::wstring wide[] = {L"stays"};
-    SetFormat(wide, count, 4, -1);
-    EXPECT_EQ(wide[0], L"stays");
-    BSTR host[1] = {};
-    VB_SetFormat(host, count, 4, -1);
-    EXPECT_EQ(host[0], nullptr);
-  }
-  std::wstring one[] = {L"x"};
-  SetFormat(one, 1, 2, -1);
-  EXPECT_EQ(one[0], L"0.0");
-}
-
-}  // namespace

@@ -3,10 +3,11 @@
 #include "QUVARDCR1C.h"
 
 #include <algorithm>
-#include <memory>
 #include <stdexcept>
 
 #include "recording/Recording.h"
+
+Recording recording;
 
 namespace {
 
@@ -17,28 +18,22 @@ void record(const std::string& service, const Text& text) {
   std::fill(wideBuffer.begin(), wideBuffer.end(), L'\xDEAD');
   std::string call = service + "(";
   for (const auto unit : text) call.push_back(unit < 0x80 ? static_cast<char>(unit) : '?');
-  recording().calls.push_back(call + ")");
+  recording.calls.push_back(call + ")");
 }
 
-BSTR made(const std::u16string& text) {
-  std::unique_ptr<char16_t[]> units(new char16_t[text.size() + 1]);
-  std::copy_n(text.c_str(), text.size() + 1, units.get());
-  recording().alive.insert(units.get());
-  return units.release();
+template <typename Text>
+BSTR made(const std::string& service, const Text& text) {
+  record(service, text);
+  const BSTR handle = new char16_t[text.size() + 1]();
+  std::copy(text.begin(), text.end(), handle);
+  return *recording.alive.insert(handle).first;
 }
+
+std::u16string textOf(const char16_t* units) { return units == nullptr ? u"" : units; }
 
 }  // namespace
 
-Recording& recording() {
-  static Recording recording;
-  return recording;
-}
-
-BSTR SysAllocString16(const char16_t* units) {
-  const std::u16string text = units == nullptr ? u"" : units;
-  record("SysAllocString16", text);
-  return made(text);
-}
+BSTR SysAllocString16(const char16_t* units) { return made("SysAllocString16", textOf(units)); }
 
 std::size_t wcslen16(const char16_t* units) {
   record("wcslen16", std::u16string(units));
@@ -47,7 +42,7 @@ std::size_t wcslen16(const char16_t* units) {
 
 void releaseBSTR(BSTR handle) {
   if (handle == nullptr) return;
-  if (recording().alive.erase(handle) == 0) throw std::logic_error("no live host string");
+  if (recording.alive.erase(handle) == 0) throw std::logic_error("no live host string");
   delete[] handle;
 }
 
@@ -58,19 +53,12 @@ wchar_t* CW162W32(BSTR handle) {
   return wideBuffer.data();
 }
 
-BSTR SysAllocString2(const wchar_t* units) {
-  const std::wstring text = units;
-  record("SysAllocString2", text);
-  return made({text.begin(), text.end()});
-}
+BSTR SysAllocString2(const wchar_t* units) { return made("SysAllocString2", std::wstring(units)); }
 
 std::wstring convertBSTRtoWstring(BSTR& handle) {
-  const std::u16string text = handle == nullptr ? u"" : handle;
+  const std::u16string text = textOf(handle);
   record("convertBSTRtoWstring", text);
   return {text.begin(), text.end()};
 }
 
-BSTR convertWstringToBSTR(std::wstring text) {
-  record("convertWstringToBSTR", text);
-  return made({text.begin(), text.end()});
-}
+BSTR convertWstringToBSTR(std::wstring text) { return made("convertWstringToBSTR", text); }

@@ -12,7 +12,6 @@ struct Recording {
   std::vector<std::string> calls;  // "service(text)", in order; U+0080 and above as '?'
   std::set<BSTR> alive;            // host strings made and not released
 };
-
-QUVARDCR1C_API Recording& recording();
+extern QUVARDCR1C_API Recording recording;
 
 #endif

@@ -1,42 +1,23 @@
-#include <gtest/gtest.h>
-
 #include <clocale>
-#include <cstdint>
-#include <string>
 
-#include "QUVARDBS1C.h"
-
-namespace {
+#include "support/HostStrings.h"
 
 TEST(LowerCase, DefaultLocaleChangesAToZAlone) {
-  EXPECT_EQ(StrLCase(L"AbC-9"), L"abc-9");
-  EXPECT_EQ(StrLCase(L""), L"");
-  for (std::uint32_t value = 0; value <= 0xFFFF; ++value) {
-    const auto unit = static_cast<wchar_t>(value);
-    const bool letter = unit >= L'A' && unit <= L'Z';
-    const std::wstring lowered = StrLCase(std::wstring(2, unit));
-    ASSERT_EQ(lowered, std::wstring(2, letter ? static_cast<wchar_t>(unit + 32) : unit)) << value;
-  }
+  Text lower = allUnits();
+  for (wchar_t& unit : lower) unit += unit >= L'A' && unit <= L'Z' ? 32 : 0;
+  EXPECT_EQ(StrLCase(allUnits()), lower);
 }
 
 TEST(LowerCase, ValuesThatAreNoCharacterStay) {
-  for (const std::uint32_t value : {0x10FFFFU, 0x110000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
-    const std::wstring text(1, static_cast<wchar_t>(value));
-    EXPECT_EQ(StrLCase(text), text) << value;
-    EXPECT_EQ(LowerFirst(text, L"", 0), text) << value;
-    EXPECT_EQ(UpperFirst(text), text) << value;
+  for (const Text text : {L"\x10FFFF", L"\x110000", L"\x7FFFFFFF", L"\x80000000", L"\xFFFFFFFF"}) {
+    EXPECT_EQ(StrLCase(text), text);
+    EXPECT_EQ(LowerFirst(text, L"", 0) + UpperFirst(text), text + text);
   }
 }
 
 TEST(LowerCase, FollowsTheLocaleOfTheProcess) {
   if (std::setlocale(LC_CTYPE, "C.UTF-8") == nullptr) GTEST_SKIP() << "no UTF-8 locale here";
-  const std::wstring lowered = StrLCase(L"\x0141\x00C9");
-  const std::wstring upper = UpperFirst(L"\x0142");
-  const std::wstring highest = StrLCase(L"\x10FFFF");
+  const Text lowered = StrLCase(L"\x0141\x00C9\x10FFFF"), upper = UpperFirst(L"\x0142");
   std::setlocale(LC_CTYPE, "C");
-  EXPECT_EQ(lowered, L"\x0142\x00E9");
-  EXPECT_EQ(upper, L"\x0141");
-  EXPECT_EQ(highest, L"\x10FFFF");
+  EXPECT_EQ(lowered + upper, L"\x0142\x00E9\x10FFFF\x0141");
 }
-
-}  // namespace

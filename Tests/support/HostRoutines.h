@@ -1,44 +1,59 @@
-// Every host routine with the host strings that it takes, for tests that go over the whole
-// interface.
+// Every host routine, for tests that go over the whole interface.
 #ifndef TESTS_SUPPORT_HOSTROUTINES_H
 #define TESTS_SUPPORT_HOSTROUTINES_H
 
 #include <functional>
-#include <string>
+#include <utility>
 #include <vector>
 
 #include "support/HostStrings.h"
 
-using Texts = std::vector<std::wstring>;
+using Texts = std::vector<Text>;
 using Handles = const BSTR*;
 
-// The way across the boundary, which tells the services that are called.
-enum class Path {
-  buffer,        // CW162W32 for each string, SysAllocString2 for the result
-  bufferNoNull,  // the same, but with a null handle nothing is called
-  object,        // convertBSTRtoWstring for each string, convertWstringToBSTR for the result
-  unit,  // wcslen16 for each string, SysAllocString2 for the result; nothing for a null text
-  bufferAndUnit,  // the first string as on the buffer path, the others as on the unit path
-  none,           // SysAllocString16 alone
+// The way across the boundary: the services for the first string, for each other one and for a
+// resulting string, and whether a null first or second string ends the call before any of them.
+struct Path {
+  std::string first, others, result;
+  bool endsAtNull = false;
 };
+inline const Path kBuffer{"CW162W32", "CW162W32", "SysAllocString2"};
+inline const Path kToNumber{"CW162W32", "CW162W32", ""};
+inline const Path kToNumberOrNull{"CW162W32", "CW162W32", "", true};
+inline const Path kBufferAndUnits{"CW162W32", "wcslen16", "SysAllocString2"};
+inline const Path kUnitsOrNull{"wcslen16", "wcslen16", "SysAllocString2", true};
+inline const Path kObject{"convertBSTRtoWstring", "convertBSTRtoWstring", "convertWstringToBSTR"};
+inline const Path kCopy{"", "", "SysAllocString16"};
 
 struct HostRoutine {
   std::string name;
-  std::size_t strings;  // number of host strings it takes
-  Path path;
-  bool givesString;
-  std::function<std::wstring(Handles)> call;  // its result as text, released
-  std::function<std::wstring(const Texts&)>
-      expected;  // the same by other means; null reads as empty
+  std::size_t strings;                         // number of host strings it takes
+  std::function<Text(Handles)> call;           // its result as text, released
+  std::function<Text(const Texts&)> expected;  // the same from wide text, null read as empty
+  const Path* path = nullptr;
 };
 
-// What VB_Replace gives: its argument itself is not released.
-inline std::wstring takenUnlessArgument(BSTR result, BSTR argument) {
-  return result == argument ? L"(argument)" : taken(result);
+inline Text shown(BSTR result) { return taken(result); }
+inline Text shown(const Text& result) { return result; }
+inline Text shown(std::int32_t result) { return std::to_wstring(result); }
+
+// A host routine that takes host strings and then these scalars, and what does the same with wide
+// text.
+template <typename Result, typename... Parameters, typename Wide, typename... Scalars>
+HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide,
+                      Scalars... scalars) {
+  constexpr std::size_t count = sizeof...(Parameters) - sizeof...(Scalars);
+  const auto called = [=](auto routine, const auto& strings) {
+    return [&]<std::size_t... i>(std::index_sequence<i...>) {
+      return shown(routine(strings[i]..., scalars...));
+    }
+    (std::make_index_sequence<count>());
+  };
+  return {name, count, [=](Handles s) { return called(host, s); },
+          [=](const Texts& t) { return called(wide, t); }};
 }
 
-inline std::wstring replacedStepwise(std::wstring text, const std::wstring& pattern,
-                                     const std::wstring& replacement) {
+inline Text replacedStepwise(Text text, const Text& pattern, const Text& replacement) {
   if (pattern.empty()) return text;
   for (std::size_t at = 0; (at = text.find(pattern, at)) != text.npos; at += replacement.size()) {
     text = text.substr(0, at) + replacement + text.substr(at + pattern.size());
@@ -46,97 +61,62 @@ inline std::wstring replacedStepwise(std::wstring text, const std::wstring& patt
   return text;
 }
 
-inline const std::vector<HostRoutine>& hostRoutines() {
-  static const std::vector<HostRoutine> routines{
-      {"VB_StrLeft", 1, Path::buffer, true, [](Handles s) { return taken(VB_StrLeft(s[0], 1)); },
-       [](const Texts& t) { return t[0].substr(0, 1); }},
-      {"VB_StrRight", 1, Path::buffer, true, [](Handles s) { return taken(VB_StrRight(s[0], 1)); },
-       [](const Texts& t) { return StrRight(t[0], 1); }},
-      {"VB_StrConcat", 6, Path::buffer, true,
-       [](Handles s) { return taken(VB_StrConcat(s[0], s[1], s[2], s[3], s[4], s[5])); },
-       [](const Texts& t) { return t[0] + t[1] + t[2] + t[3] + t[4] + t[5]; }},
-      {"VB_StrLTrim", 1, Path::buffer, true, [](Handles s) { return taken(VB_StrLTrim(s[0])); },
-       [](const Texts& t) { return StrLTrim(t[0]); }},
-      {"VB_StrRTrim", 1, Path::buffer, true, [](Handles s) { return taken(VB_StrRTrim(s[0])); },
-       [](const Texts& t) { return StrRTrim(t[0]); }},
-      {"VB_StrLRTrim", 1, Path::buffer, true, [](Handles s) { return taken(VB_StrLRTrim(s[0])); },
-       [](const Texts& t) { return StrLRTrim(t[0]); }},
-      {"VB_RemoveChar", 2, Path::buffer, true,
-       [](Handles s) { return taken(VB_RemoveChar(s[0], s[1])); },
-       [](const Texts& t) { return RemoveChar(t[0], t[1]); }},
-      {"VB_RemoveNonNumericChar", 1, Path::buffer, true,
-       [](Handles s) { return taken(VB_RemoveNonNumericChar(s[0])); },
-       [](const Texts& t) { return RemoveNonNumericChar(t[0]); }},
-      {"VB_RemoveColon", 1, Path::unit, true, [](Handles s) { return taken(VB_RemoveColon(s[0])); },
-       [](const Texts& t) { return RemoveChar(t[0], L":"); }},
-      {"VB_CommonChar", 2, Path::buffer, false,
-       [](Handles s) { return std::to_wstring(VB_CommonChar(s[0], s[1])); },
-       [](const Texts& t) { return std::to_wstring(CommonChar(t[0], t[1])); }},
-      {"ChrCount", 2, Path::bufferNoNull, false,
-       [](Handles s) { return std::to_wstring(ChrCount(s[0], s[1])); },
-       [](const Texts& t) { return std::to_wstring(cChrCount(t[0], t[1])); }},
-      {"StrFromTo", 1, Path::buffer, true, [](Handles s) { return taken(StrFromTo(s[0], 1, 1)); },
-       [](const Texts& t) { return t[0].substr(0, 1); }},
-      {"StrBetween", 1, Path::buffer, true, [](Handles s) { return taken(StrBetween(s[0], 1, 3)); },
-       [](const Texts& t) { return t[0].size() < 3 ? L"" : t[0].substr(1, 1); }},
-      {"StrFromChrToChr", 3, Path::buffer, true,
-       [](Handles s) { return taken(StrFromChrToChr(s[0], s[1], s[2])); },
-       [](const Texts& t) {
-         const bool found = t[0].find(t[1]) != t[0].npos && t[0].find(t[2]) != t[0].npos;
-         return found ? t[0].substr(0, 1) : L"";
-       }},
-      {"StrBetweenChrAndChr", 3, Path::object, true,
-       [](Handles s) { return taken(StrBetweenChrAndChr(s[0], s[1], s[2])); },
-       [](const Texts& t) { return cStrBetweenChrAndChr(t[0], t[1], t[2]); }},
-      {"VB_Replace", 3, Path::unit, true,
-       [](Handles s) { return takenUnlessArgument(VB_Replace(s[0], s[1], s[2]), s[0]); },
-       [](const Texts& t) { return replacedStepwise(t[0], t[1], t[2]); }},
-      {"VB_Replace2", 5, Path::bufferAndUnit, true,
-       [](Handles s) { return taken(VB_Replace2(s[0], s[1], s[2], s[3], s[4])); },
-       [](const Texts& t) {
-         return replacedStepwise(replacedStepwise(t[0], t[1], t[2]), t[3], t[4]);
-       }},
-      {"VB_LocalAN", 3, Path::buffer, true,
-       [](Handles s) { return taken(VB_LocalAN(s[0], s[1], s[2])); },
-       [](const Texts& t) { return LocalAN(t[0], t[1], t[2], -1, 0, 0); }},
-      {"VB_LocalAN2", 3, Path::buffer, true,
-       [](Handles s) { return taken(VB_LocalAN2(s[0], s[1], s[2], 0, -1, 1)); },
-       [](const Texts& t) { return LocalAN(t[0], t[1], t[2], 0, -1, 1); }},
-      {"VB_LowerFirst", 2, Path::buffer, true,
-       [](Handles s) { return taken(VB_LowerFirst(s[0], s[1], 0)); },
-       [](const Texts& t) { return LowerFirst(t[0], t[1], 0); }},
-      {"VB_UpperFirst", 1, Path::buffer, true, [](Handles s) { return taken(VB_UpperFirst(s[0])); },
-       [](const Texts& t) { return UpperFirst(t[0]); }},
-      {"VB_SpStrSp", 1, Path::object, true, [](Handles s) { return taken(VB_SpStrSp(s[0])); },
-       [](const Texts& t) { return L" " + t[0] + L" "; }},
-      {"VB_PStrP", 1, Path::buffer, true, [](Handles s) { return taken(VB_PStrP(s[0])); },
-       [](const Texts& t) { return L"(" + t[0] + L")"; }},
-      {"VB_BStrB", 1, Path::buffer, true, [](Handles s) { return taken(VB_BStrB(s[0])); },
-       [](const Texts& t) { return L"[" + t[0] + L"]"; }},
-      {"VB_SingPlural", 1, Path::none, true,
-       [](Handles s) { return taken(VB_SingPlural(nullptr, s[0], 2)); },
-       [](const Texts& t) { return t[0]; }},
-      {"VB_QUVARDHTMLProcessor", 1, Path::buffer, true,
-       [](Handles s) { return taken(VB_QUVARDHTMLProcessor(s[0])); },
-       [](const Texts& t) { return QUVARDHTMLProcessor(t[0]); }},
-      {"VB_SetFormat", 0, Path::buffer, true,
-       [](Handles) {
-         BSTR formats[1] = {};
-         VB_SetFormat(formats, 1, 5, -1);
-         return taken(formats[0]);
-       },
-       [](const Texts&) { return L"0.0000"; }},
-      {"Cpp_DecimalFormat", 0, Path::buffer, true,
-       [](Handles) { return taken(Cpp_DecimalFormat(9)); },
-       [](const Texts&) { return L"0.000000000"; }},
-      {"VB_OutputFormat", 0, Path::buffer, true,
-       [](Handles) { return taken(VB_OutputFormat(0.25)); },
-       [](const Texts&) { return L"0.###################"; }},
-      {"VB_OptimalFormat", 0, Path::buffer, true,
-       [](Handles) { return taken(VB_OptimalFormat(1e6 + 0.5, 4, -1, -1)); },
-       [](const Texts&) { return L"0.0000E+0"; }},
+inline std::vector<HostRoutine> hostRoutines() {
+  const auto fromChrToChr = [](Text text, Text opening, Text closing) {
+    const std::size_t first = text.find(opening), last = text.find(closing);
+    const bool units = opening.empty() || closing.empty() || opening.size() * closing.size() == 1;
+    return units && first <= last && last != text.npos ? text.substr(first, last - first + 1) : L"";
   };
-  return routines;
+  const auto replacedTwice = [](Text text, Text sought1, Text with1, Text sought2, Text with2) {
+    return replacedStepwise(replacedStepwise(text, sought1, with1), sought2, with2);
+  };
+  const auto localAN = [](Text a, Text b, Text c) { return LocalAN(a, b, c, -1, 0, 0); };
+  const auto slice = [](Text text, int, int) { return text.substr(0, 1); };
+  const auto between = [](Text t, int, int) { return t.size() < 3 ? L""s : t.substr(1, 1); };
+  const auto noColon = [](Text text) { return RemoveChar(text, L":"); };
+  const auto inBrackets = [](Text text) { return L"[" + text + L"]"; };
+  // Where VB_Replace gives its argument itself, which is not to be released, the null handle.
+  const auto replacedOrNull = +[](BSTR text, BSTR pattern, BSTR replacement) -> BSTR {
+    const BSTR result = VB_Replace(text, pattern, replacement);
+    return result == text ? nullptr : result;
+  };
+  const auto firstFormat = +[](std::int32_t digits) -> BSTR {
+    BSTR formats[1] = {};
+    VB_SetFormat(formats, 1, digits, -1);
+    return formats[0];
+  };
+
+  std::vector<HostRoutine> all;
+  const auto add = [&all](const Path& path, std::vector<HostRoutine> routines) {
+    for (HostRoutine& routine : routines) routine.path = &path;
+    all.insert(all.end(), routines.begin(), routines.end());
+  };
+#define ROUTINE(host, ...) routineOf(#host, host, __VA_ARGS__)
+  add(kBuffer,
+      {ROUTINE(VB_StrLeft, StrLeft, 1), ROUTINE(VB_StrRight, StrRight, 1),
+       ROUTINE(VB_StrConcat, StrConcat), ROUTINE(VB_StrLTrim, StrLTrim),
+       ROUTINE(VB_StrRTrim, StrRTrim), ROUTINE(VB_StrLRTrim, StrLRTrim),
+       ROUTINE(VB_RemoveChar, RemoveChar), ROUTINE(VB_RemoveNonNumericChar, RemoveNonNumericChar),
+       ROUTINE(StrFromTo, slice, 1, 1), ROUTINE(StrBetween, between, 1, 3),
+       ROUTINE(StrFromChrToChr, fromChrToChr)});
+  add(kBuffer,
+      {ROUTINE(VB_LocalAN, localAN), ROUTINE(VB_LocalAN2, LocalAN, 0, -1, 1),
+       ROUTINE(VB_LowerFirst, LowerFirst, 0), ROUTINE(VB_UpperFirst, UpperFirst),
+       ROUTINE(VB_PStrP, PStrP), ROUTINE(VB_BStrB, inBrackets),
+       ROUTINE(VB_QUVARDHTMLProcessor, QUVARDHTMLProcessor),
+       ROUTINE(Cpp_DecimalFormat, DecimalFormat, 9), ROUTINE(VB_OutputFormat, OutputFormat, 0.25),
+       ROUTINE(VB_OptimalFormat, OptimalFormat, 1e6 + 0.5, 4, -1, -1),
+       routineOf(
+           "VB_SetFormat", firstFormat, [](int digits) { return DecimalFormat(digits - 1); }, 5)});
+  add(kToNumber, {ROUTINE(VB_CommonChar, CommonChar)});
+  add(kToNumberOrNull, {ROUTINE(ChrCount, cChrCount)});
+  add(kBufferAndUnits, {ROUTINE(VB_Replace2, replacedTwice)});
+  add(kUnitsOrNull, {ROUTINE(VB_RemoveColon, noColon),
+                     routineOf("VB_Replace", replacedOrNull, replacedStepwise)});
+  add(kObject, {ROUTINE(StrBetweenChrAndChr, cStrBetweenChrAndChr), ROUTINE(VB_SpStrSp, SpStrSp)});
+  add(kCopy, {ROUTINE(VB_SingPlural, SingPlural, 2)});
+#undef ROUTINE
+  return all;
 }
 
 #endif
