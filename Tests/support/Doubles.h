@@ -4,13 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <cmath>
-#include <cstdint>
 #include <iomanip>
 #include <limits>
 #include <random>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 inline constexpr double kInf = std::numeric_limits<double>::infinity();
@@ -23,16 +24,38 @@ inline constexpr int32_t kHighest = std::numeric_limits<int32_t>::max();
 inline double above(double x) { return std::nextafter(x, kInf); }
 inline double below(double x) { return std::nextafter(x, -kInf); }
 
+inline int32_t truncated(double x) {
+  return std::fabs(std::trunc(x)) <= kHighest ? static_cast<int32_t>(x) : kLowest;
+}
+
+template <typename... Numbers>
+std::string shown(Numbers... numbers) {
+  std::ostringstream text;
+  ((text << std::setprecision(17) << numbers << ' '), ...);
+  return text.str();
+}
+
 // The same bits; any NaN is the same as any other.
 inline testing::AssertionResult sameBits(double actual, double expected) {
-  if (std::bit_cast<uint64_t>(actual) == std::bit_cast<uint64_t>(expected) ||
-      (std::isnan(actual) && std::isnan(expected))) {
-    return testing::AssertionSuccess();
-  }
-  std::ostringstream text;
-  text << std::setprecision(17) << actual << " is not " << expected << std::hexfloat << " ("
-       << actual << ", " << expected << ")";
-  return testing::AssertionFailure() << text.str();
+  const bool same = std::bit_cast<uint64_t>(actual) == std::bit_cast<uint64_t>(expected) ||
+                    (std::isnan(actual) && std::isnan(expected));
+  return testing::AssertionResult(same) << shown(actual, "is not", expected);
+}
+
+// Each row has the arguments of the routine and its result.
+template <typename Result, typename... Parameters, std::size_t... columns>
+void expectRows(const char* name, Result (*routine)(Parameters...),
+                const double (&... rows)[columns]) {
+  static_assert(((columns == sizeof...(Parameters) + 1) && ...));
+  const auto expectRow = [&]<std::size_t... i>(const double* row, std::index_sequence<i...>) {
+    EXPECT_TRUE(sameBits(routine(static_cast<Parameters>(row[i])...), row[sizeof...(i)]))
+        << name << " of " << shown(row[i]...);
+  };
+  (expectRow(rows, std::index_sequence_for<Parameters...>()), ...);
+}
+
+void expectSame(auto routine, auto reference, auto... arguments) {
+  EXPECT_TRUE(sameBits(routine(arguments...), reference(arguments...))) << shown(arguments...);
 }
 
 // Random arguments, the same in every run.
@@ -51,17 +74,30 @@ class Arguments {
   }
 
   // Any integer, small ones as often as large ones.
-  int32_t integer() { return static_cast<int32_t>(bits_()) >> (bits_() % 32); }
+  int32_t integer() {
+    const auto shift = integer(0, 31);
+    return static_cast<int32_t>(bits_()) >> shift;
+  }
 
-  // One of the values that stand at some edge, or any double.
+  // A flag, with anything above the 16 bits that count.
+  int32_t flag() {
+    const int32_t low = std::array{0, 0xFFFF, 1, 0x8000, 0xFFFE}[bits_() % 5];
+    return static_cast<int32_t>(bits_()) << 16 | low;
+  }
+
+  // A value of either sign that stands at some edge or close to it, or any double.
   double edge() {
     static const std::vector<double> edges{
-        0.0,    -0.0,   1.0,          -1.0,          0.5,           -0.5,    2.0,
-        kInf,   -kInf,  kNaN,         kTiny,         -kTiny,        1e-12,   -1e-12,
-        1e300,  -1e300, kExtreme,     -kExtreme,     0x1p31,        -0x1p31, 0x1p31 - 1,
-        0x1p52, 0x1p53, 4294967296.0, 2147483646.75, -2147483648.5, 1e-300,  1e16};
+        0.0,    kTiny,  1e-300, 1e-12, 1e-6,     0.25,   0.5,        1.0,          2.0,
+        6.5,    709.0,  1e5,    1e10,  0x1p-51,  0x1p31, 0x1p31 - 1, 0x1p31 + 0.5, 0x1p32,
+        0x1p52, 0x1p53, 1e16,   1e300, kExtreme, kInf,   kNaN};
     const uint64_t choice = bits_() % (edges.size() + 4);
-    return choice < edges.size() ? edges[choice] : any();
+    double x = choice < edges.size() ? edges[choice] : any();
+    const int32_t shift = integer(-4, 4);
+    if (shift == 1) x = above(x);
+    if (shift == -1) x = below(x);
+    if (shift > 2) x += shift * 0.25;
+    return shift % 2 == 0 ? x : -x;
   }
 
  private:
