@@ -22,9 +22,8 @@ TEST(Gamma, GammaLn) {
   expectRows("GammaLn", GammaLn, {1.0, 0.0}, {2.0, -1.3322676295501878e-15},
              {3.0, 0.69314718055994451}, {0.5, 0.57236494292470042}, {100.0, 359.13420536957523},
              {-1.5, 0.860047015376534}, {-5.5, -4.517848037884107}, {1e-15, 34.65735902799727},
-             {1e+300, 6.897755278982137e+302}, {-0.5, kNaN}, {-2.5, kNaN}, {-6.1, kNaN},
-             {kInf, kNaN}, {kNaN, kNaN}, {0.0, kInf}, {-2.0, kInf}, {-6.0, kInf}, {-6.5, kInf},
-             {below(-6.5), -kExtreme}, {-kInf, -kExtreme});
+             {1e+300, 6.897755278982137e+302}, {-0.5, kNaN}, {-6.1, kNaN}, {kInf, kNaN},
+             {0.0, kInf}, {-6.5, kInf}, {below(-6.5), -kExtreme});
   Arguments arguments;
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
     expectSame(GammaLn, stepwise, arguments.between(-7.0, 10.0));

@@ -31,11 +31,7 @@ Outcome stepwiseLinear(const Points& p, HostBool forward, double x, double y) {
   return {0, (y - b) / a, kOld, y};
 }
 
-// The first of the three that is a number other than 0, else the last.
-int choice(double first, double second) {
-  const auto counts = [](double value) { return value != 0.0 && !std::isnan(value); };
-  return counts(first) ? 0 : counts(second) ? 1 : 2;
-}
+bool counts(double value) { return value != 0.0 && !std::isnan(value); }
 
 Outcome stepwiseQuadratic(const Points& p, HostBool forward, double x, double y) {
   const double xs[] = {p[0], p[1], p[2], p[0], p[1]}, ys[] = {p[3], p[4], p[5], p[3], p[4]};
@@ -44,13 +40,13 @@ Outcome stepwiseQuadratic(const Points& p, HostBool forward, double x, double y)
   const auto d = [&](int i) {
     return (xs[i] + xs[i + 1]) * xs[i + 2] - (xs[i] + xs[i + 2]) * xs[i + 1];
   };
-  int i = choice(d(0), d(1)), j = i + 1, k = i + 2;
+  int i = counts(d(0)) ? 0 : counts(d(1)) ? 1 : 2, j = i + 1, k = i + 2;
   const double kk = (1.0 / d(i)) / ((xs[j] - xs[i]) * (xs[k] - xs[i]));
   const double pp = ((xs[j] * xs[j]) * ys[i] - (xs[i] * xs[i]) * ys[j]) * ((xs[k] - xs[i]) * xs[k]);
   const double qq = ((xs[i] * xs[i]) * ys[k] - (xs[k] * xs[k]) * ys[i]) * ((xs[j] - xs[i]) * xs[j]);
   const double c = (qq + pp) * kk;
 
-  i = choice(xs[0] * xs[1], xs[1] * xs[2]), j = i + 1;
+  i = counts(xs[0] * xs[1]) ? 0 : counts(xs[1] * xs[2]) ? 1 : 2, j = i + 1;
   const double ii = xs[i] * xs[i], jj = xs[j] * xs[j];
   const double b =
       ((jj * ys[i] + (ii - jj) * c) - ii * ys[j]) / ((xs[i] * xs[j]) * (xs[j] - xs[i]));
@@ -75,22 +71,16 @@ testing::AssertionResult same(const Outcome& actual, const Outcome& expected) {
 }
 
 TEST(Interpolation, WorkedValues) {
-  const Points line{1, 3, 0, 2, 6, 0}, level{1, 3, 0, 5, 5, 0}, upright{3, 3, 0, 6, 2, 0};
+  const Points line{1, 3, 0, 2, 6, 0};
   EXPECT_TRUE(same(linear(line, -1, 2, 9), {0, 2, kOld, 4}));
   EXPECT_TRUE(same(linear(line, 0, 9, 4), {0, 2, kOld, 4}));
-  EXPECT_TRUE(same(linear(level, 0, 9, 5), {-1, 9, kOld, 5}));
-  EXPECT_TRUE(same(linear(upright, 0, 9, 9), {-1, 3, kOld, 4}));
+  EXPECT_TRUE(same(linear({3, 3, 0, 6, 2, 0}, 0, 9, 9), {-1, 3, kOld, 4}));
 
-  const Points cup{1, 2, 4, 0, 0, 6}, cap{1, 2, 3, 3, 0, -5}, shallow{2, 4, 6, 2, 5, 10};
-  const double extreme = 8.98846567431155e+307;
+  const Points cup{1, 2, 4, 0, 0, 6}, nearLine{0.1, 0.2, 0.3, 0.2, 0.4, 0.6};
   EXPECT_TRUE(same(quadratic(cup, -1, 5, 9), {0, 5, kOld, 12}));
   EXPECT_TRUE(same(quadratic(cup, 0, 9, 6), {0, -1, 4, 6}));
-  EXPECT_TRUE(same(quadratic(cup, 0, 9, -1), {0, extreme, -extreme, -1}));
-  EXPECT_TRUE(same(quadratic(cap, 0, 9, 0), {0, -2, 2, 0}));
-  EXPECT_TRUE(same(quadratic(shallow, 0, 9, 0), {0, kInf, -kInf, 0}));
-  EXPECT_TRUE(same(quadratic({1, 2, 3, 3, 5, 7}, 0, 9, 9), {0, 4, kOld, 9}));
-  EXPECT_TRUE(same(quadratic({1, 2, 3, 4, 4, 4}, 0, 9, 4), {-1, 9, kOld, 4}));
-  const Points nearLine{0.1, 0.2, 0.3, 0.2, 0.4, 0.6};
+  EXPECT_TRUE(same(quadratic(cup, 0, 9, -1), {0, kExtreme / 2, -kExtreme / 2, -1}));
+  EXPECT_TRUE(same(quadratic({1, 2, 3, 3, 0, -5}, 0, 9, 0), {0, -2, 2, 0}));
   EXPECT_TRUE(same(quadratic(nearLine, -1, 1, 9), {0, 1, kOld, 2.0000000000000133}));
   EXPECT_TRUE(same(quadratic(nearLine, 0, 9, 1), {0, -115581103218731.9, 0.5004511278195494, 1}));
 }
@@ -107,7 +97,7 @@ TEST(Interpolation, AsStepwise) {
     EXPECT_TRUE(same(quadratic(p, flag, x, y), stepwiseQuadratic(p, flag, x, y)))
         << shown(p[0], p[1], p[2], p[3], p[4], p[5], x, y);
   };
-  for (int i = 0; i < 40000 && !HasFailure(); ++i) {
+  for (int i = 0; i < 20000 && !HasFailure(); ++i) {
     expectAsStepwise([&] { return arguments.between(-9.0, 9.0); });
     expectAsStepwise([&] { return arguments.edge(); });
     for (const double unit : {1.0, 1e-160, 1e160}) {
