@@ -15,6 +15,16 @@ std::atomic<long> liveAllocations = 0;
 // In front of the memory stands its size, and behind it the same once more.
 constexpr std::size_t kFront = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
+void release(void* memory) {
+  if (memory == nullptr) return;
+  char* const front = static_cast<char*>(memory) - kFront;
+  std::size_t size;
+  std::memcpy(&size, front, sizeof size);
+  if (std::memcmp(front + kFront + size, &size, sizeof size) != 0) std::abort();
+  std::free(front);
+  --liveAllocations;
+}
+
 }  // namespace
 
 void* operator new(std::size_t size) {
@@ -26,17 +36,8 @@ void* operator new(std::size_t size) {
   return memory;
 }
 
-void operator delete(void* memory) noexcept {
-  if (memory == nullptr) return;
-  char* const front = static_cast<char*>(memory) - kFront;
-  std::size_t size;
-  std::memcpy(&size, front, sizeof size);
-  if (std::memcmp(front + kFront + size, &size, sizeof size) != 0) std::abort();
-  std::free(front);
-  --liveAllocations;
-}
-
-void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete(void* memory) noexcept { release(memory); }
+void operator delete(void* memory, std::size_t) noexcept { release(memory); }
 
 TEST(Allocations, EachMayFail) {
   const B text(u"Some <BR> words: (that) have 12 units, too"), language(u"US");
