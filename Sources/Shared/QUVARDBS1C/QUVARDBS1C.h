@@ -609,8 +609,8 @@ QUVARDBS1C_API double spow(double base, double exponent) QUVARDBS1C_NOEXCEPT;
 ///
 /// Method: x + 0.5 * x * x for abs(x) up to 1e-6, else exp(x) + (-1.0), which cancels near 0.
 ///
-/// Accuracy: relative error at most 1.1e-16 for abs(x) up to 1e-8, growing to 1.7e-13 at 1e-6; then
-/// 1.2e-16 / abs(x) up to 1; 1 unit in the last place for abs(x) from 1 to 709.
+/// Accuracy: relative error at most 1.3e-16 for abs(x) up to 1e-8, growing to 1.7e-13 at 1e-6; then
+/// 1.6e-16 / abs(x) up to 1; 1.1 units in the last place for abs(x) from 1 to 709.
 ///
 /// @return 1.79769313486231e+308 for @p x above 709
 /// @b Example: `expm1x(1e-6) == 1.0000004999999999e-06`
@@ -649,7 +649,7 @@ QUVARDBS1C_API double FSign(double a, double b) QUVARDBS1C_NOEXCEPT;
 ///
 /// Method: log(exp(-abs(a - b)) + 1.0) + the larger one.
 ///
-/// Accuracy: absolute error at most 2.6e-16 times the larger of 1 and abs(max(a, b)), for arguments
+/// Accuracy: absolute error at most 2.8e-16 times the larger of 1 and abs(max(a, b)), for arguments
 /// from -1e6 to 1e6. Where the result is close to 0, the relative error has no bound.
 ///
 /// @return NaN for two infinities of the same sign
@@ -689,10 +689,12 @@ QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 ///
 /// Accuracy: relative error at most 1.1e-14 for x from 0.01 to 0.5, 5e-15 from 3 to 100 and 8e-16
 /// from 100 to 2.5e305. From 0.5 to 3, with zeros at 1 and 2, absolute error at most 4e-15. Below
-/// 0.01 the rounding of 7 + x counts: absolute error up to 4.5e-16 / x.
+/// 0.01 the rounding of 7 + x counts: absolute error up to 4.5e-16 / x from 1e-12 on, and no digit
+/// is right where x is near 4.4e-16.
 ///
-/// @param x  positive. From -6.5 up to 0 the formula runs as it is: NaN where the gamma function is
-///           negative, +infinity at 0, -2, -4, -6 and -6.5, far off below -6.19
+/// @param x  positive. From -6.5 up to 0 the formula runs as it is: NaN from -1 up to 0, from -3 up
+///           to -2, from -5 up to -4 and from about -6.19 up to -6; +infinity at -2, -4, -6, -6.5
+///           and where abs(x) is at most 4.4e-16; far off below -6.19
 /// @return   -1.79769313486231e+308 for @p x below -6.5; +infinity from about 2.56e305; NaN for
 ///           +infinity
 /// @b Example: `GammaLn(0.5) > 0.57236494292 && GammaLn(0.5) < 0.57236494293`
@@ -726,7 +728,7 @@ QUVARDBS1C_API double Fact(int32_t n) QUVARDBS1C_NOEXCEPT;
 /// the last place for whole n up to 1020.
 ///
 /// @return +infinity if the coefficient, or a product on the way to it, is out of range; 1 + k if n
-/// - k is 2147483648 or more
+///         - k is 2147483648 or more and k fits 32 bits
 /// @b Example: `Cnk(49, 6) == 13983816`
 QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
 
@@ -816,7 +818,9 @@ QUVARDBS1C_API HostBool IsEvenLng(int32_t n) QUVARDBS1C_NOEXCEPT;
 
 /// @p v moved away from zero: a value that is not whole goes to the next whole number or, with @p
 /// half, to the next multiple of a half. The half point itself goes on to the whole number, and so
-/// does a fraction less than 1e-12 below it. From 2147483647 in magnitude, @p half has no effect.
+/// does a fraction less than 1e-12 below it. The step is taken from the rounded abs(v) + 1, so the
+/// last double below a whole number goes on to the grid point after that. From 2147483647 in
+/// magnitude, @p half has no effect.
 ///
 /// @return +0.0 for both zeros; NaN for an infinity or NaN
 /// @b Example: `Int05(2.1, -1) == 2.5`
@@ -825,8 +829,8 @@ QUVARDBS1C_API double Int05(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 /// @p v moved to the closest whole number or, with @p half, to the closest multiple of a half.
 ///
 /// Of two equally close whole numbers the one nearer to zero is taken, up to 15.5 (from 16.5 the
-/// one further away). A quarter point, and a value less than 1e-12 beyond it, goes to the whole
-/// number.
+/// one further away); so is it a few units in the last place beyond the tie. A quarter point, and a
+/// value less than 1e-12 beyond it, goes to the whole number.
 ///
 /// @return +0.0 for both zeros, -0.0 for a negative value that comes to nothing; NaN for an
 ///         infinity or NaN
@@ -834,7 +838,8 @@ QUVARDBS1C_API double Int05(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API double Int05c(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 
 /// @p v moved down or up the number line to a whole number or, with @p half, to a multiple of a
-/// half. A value on the grid stays. No tolerance.
+/// half. A value on the grid stays. No tolerance. Upward from just below 0, where 1 + v rounds to
+/// 1, the result is 1.
 ///
 /// @param lower  down if it is True, otherwise up
 /// @return       an infinity for itself; NaN for NaN
@@ -862,8 +867,9 @@ QUVARDBS1C_API double Int05LU(double v, HostBool half, HostBool lower) QUVARDBS1
 /// b) / a.
 ///
 /// Accuracy: with abscissae, values and the asked one from -1 to 1, x1 and x2 at least 0.1 apart,
-/// absolute error at most 5e-15 forward; with y1 and y2 at least 0.1 apart, 6e-15 inverse. Both
-/// scale with the data. Data far from the origin against their distances lose more.
+/// absolute error at most 2.3e-14 forward; with y1 and y2 at least 0.1 apart, 3e-14 inverse (9e-15
+/// found in both). Both scale with the data. Data far from the origin against their distances lose
+/// more.
 ///
 /// @b Example: `(x = 2, LinearInterpol(1, 3, 2, 6, &x, &y, -1), y) == 4`
 QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x,
@@ -887,8 +893,8 @@ QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2
 /// a product vanishes, are passed over where another will do.
 ///
 /// Accuracy: with abscissae, values and the asked one from -1 to 1, abscissae at least 0.1 apart
-/// and 0.01 from 0, absolute error at most 8e-12 forward; with abs(a) at least 0.1 and a
-/// discriminant of at least 0.01, 3e-10 inverse. Abscissae closer together or to 0 lose more.
+/// and 0.01 from 0, absolute error at most 1e-10 forward; with abs(a) at least 0.1 and a
+/// discriminant of at least 0.01, 5e-9 inverse. Abscissae closer together or to 0 lose more.
 ///
 /// @b Example: `(x = 5, QuadraticInterpol(1, 2, 4, 0, 0, 6, &x, &xSecond, &y, -1), y) == 12`
 QUVARDBS1C_API int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2,
