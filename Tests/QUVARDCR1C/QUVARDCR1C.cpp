@@ -50,7 +50,7 @@ TEST(Services, WideBufferIsReusedAndEachThreadHasItsOwn) {
 
 TEST(Services, WideBufferFitsTextsOfAnyLength) {
   // Lengths around the sizes at which the buffer grows and is given back, up and down.
-  for (const std::size_t length : {255, 256, 257, 4095, 1 << 20, (1 << 20) - 1, 3 << 20, 9}) {
+  for (const std::size_t length : {255U, 256U, 4095U, 1U << 20, (1U << 20) - 1, 3U << 20, 9U}) {
     const Text wide(length, L'x');
     ASSERT_EQ(CW162W32(B(wide)), wide) << length;
   }

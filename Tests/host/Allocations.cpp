@@ -29,11 +29,12 @@ void release(void* memory) {
 
 void* operator new(std::size_t size) {
   if (allocationsLeft >= 0 && allocationsLeft-- == 0) throw std::bad_alloc();
-  char* const memory = static_cast<char*>(std::malloc(kFront + size + sizeof size)) + kFront;
-  std::memcpy(memory - kFront, &size, sizeof size);
-  std::memcpy(memory + size, &size, sizeof size);
+  char* const front = static_cast<char*>(std::malloc(kFront + size + sizeof size));
+  if (front == nullptr) throw std::bad_alloc();
   ++liveAllocations;
-  return memory;
+  std::memcpy(front, &size, sizeof size);
+  std::memcpy(front + kFront + size, &size, sizeof size);
+  return front + kFront;
 }
 
 void operator delete(void* memory) noexcept { release(memory); }

@@ -16,7 +16,7 @@ TEST(AdjectiveNoun, EveryLanguageAndFlagCombination) {
     for (const Text& language : languages) {
       for (int flags = 0; flags < 8; ++flags) {
         const HostBool upper = flags >> 2 & 1, lower = flags >> 1 & 1, noBlank = flags & 1;
-        EXPECT_EQ(LocalAN(L"ad", L"No", language, upper, lower, noBlank), phrases[flags]) << flags;
+        EXPECT_EQ(LocalAN(L"ad", L"No", language, upper, lower, noBlank), phrases.begin()[flags]);
       }
     }
   }

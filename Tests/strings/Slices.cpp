@@ -8,8 +8,8 @@ TEST(Slices, ByPosition) {
     for (const std::int32_t to : positions) {
       Text including, between;
       for (std::int32_t at = from; from >= 1 && to <= 6 && at <= to; ++at) {
-        including += text.text()[at - 1];
-        if (at > from && at < to) between += text.text()[at - 1];
+        including += BSTR(text)[at - 1];
+        if (at > from && at < to) between += BSTR(text)[at - 1];
       }
       ASSERT_EQ(taken(StrFromTo(text, from, to)), including) << from << ' ' << to;
       ASSERT_EQ(taken(StrBetween(text, from, to)), between) << from << ' ' << to;
