@@ -26,7 +26,9 @@ TEST(Replacement, WideTextsMayHoldZeroUnits) {
   EXPECT_EQ(Replace(L"a\0b\0"s, L"b", L"cd"), L"a\0cd\0"s);
 }
 
-TEST(Replacement, MoreOccurrencesThanA16BitUnitCounts) {
+TEST(Replacement, LongTextsInOnePass) {
+  const Text rest(1000000, L'a'), pattern = Text(200000, L'a') + L"b";
+  EXPECT_EQ(Replace(pattern + rest, pattern, L"x"s), L"x" + rest);
   EXPECT_EQ(taken(VB_Replace(B(Text(70000, L'a')), B(u"a"), B(u"bb"))), Text(140000, L'b'));
 }
 
