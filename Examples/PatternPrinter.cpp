@@ -49,7 +49,7 @@ std::string printed(double value, const std::string& pattern) {
     std::string text =
         format("%.*e", std::min(static_cast<int>(decimals), kSignificantDigits - 1), value);
     const std::size_t e = text.find('e');
-    const int exponent = std::atoi(text.c_str() + e + 1);
+    const int exponent = static_cast<int>(std::strtol(text.c_str() + e + 1, nullptr, 10));
     return withoutSpareZeros(text.substr(0, e), always) +
            printedExponent(exponent, pattern.substr(exponentAt));
   }
