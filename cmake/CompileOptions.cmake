@@ -8,7 +8,7 @@ target_compile_options(QUVARDCompileOptions INTERFACE
   # stays pow (clang for macOS would call a relative of it that rounds differently).
   -ffp-contract=off
   -fno-builtin-pow
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
   $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 
 # A shared library NAME.dll that exports the names in its lists and nothing else.
@@ -27,9 +27,7 @@ function(quvard_shared_library name)
   endforeach()
 
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:QUVARDCompileOptions>)
-  set_target_properties(${name} PROPERTIES
-    PREFIX "" SUFFIX ".dll"
-    BUILD_WITH_INSTALL_RPATH ON)
+  set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".dll")
 
   if(APPLE)
     list(TRANSFORM symbols PREPEND "_")
@@ -37,13 +35,12 @@ function(quvard_shared_library name)
     list(JOIN symbols "\n" content)
     set(content "${content}\n")
     set_target_properties(${name} PROPERTIES
-      INSTALL_RPATH "@loader_path" INSTALL_NAME_DIR "@loader_path" BUILD_WITH_INSTALL_NAME_DIR ON)
+      INSTALL_NAME_DIR "@loader_path" BUILD_WITH_INSTALL_NAME_DIR ON)
     target_link_options(${name} PRIVATE "LINKER:-exported_symbols_list,${script}")
   else()
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
     list(JOIN symbols ";\n    " content)
     set(content "{\n  global:\n    ${content};\n  local:\n    *;\n};\n")
-    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
     # A host may have functions named Min or StrLeft of its own: calls inside the library bind to
     # the library, as they do on macOS anyway.
     target_compile_options(${name} PRIVATE -fno-semantic-interposition)
@@ -52,4 +49,10 @@ function(quvard_shared_library name)
   endif()
   file(CONFIGURE OUTPUT "${script}" CONTENT "${content}" @ONLY)
   set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${script}")
+endfunction()
+
+# Lets a library or a program find the libraries in its own folder.
+function(quvard_find_libraries_beside target)
+  set_target_properties(${target} PROPERTIES
+    BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$<IF:$<PLATFORM_ID:Darwin>,@loader_path,$ORIGIN>")
 endfunction()

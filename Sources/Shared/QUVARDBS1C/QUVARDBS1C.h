@@ -20,7 +20,8 @@
 /// - No routine keeps anything between calls or waits for another thread, so any number may run at
 ///   once.
 /// - Routines that deal in strings may throw `std::bad_alloc` and nothing else, and leak nothing
-///   when they do. Numeric routines do not throw.
+///   when they do. **Only a C++ caller can catch it; in any other host it ends the process.** Numeric
+///   routines do not throw.
 /// - Texts and results are of at most 2,147,483,647 units.
 /// - Text compares unit by unit: case counts and no locale takes part. A blank is the one unit
 ///   U+0020.
@@ -32,6 +33,13 @@
 #define QUVARDBS1C_H
 
 #include <stdint.h>
+
+/// The version of this header. A later version of the library runs every program that was built with
+/// an earlier header.
+#define QUVARDBS1C_VERSION "1.1.0"
+#define QUVARDBS1C_VERSION_MAJOR 1
+#define QUVARDBS1C_VERSION_MINOR 1
+#define QUVARDBS1C_VERSION_PATCH 0
 
 #define QUVARDBS1C_API __attribute__((visibility("default")))
 
@@ -50,7 +58,15 @@ typedef uint_least16_t* BSTR;
 /// As an argument only its low 16 bits are read, in one of two ways that each contract names: it is
 /// *set* if they are not all zero, and it *is True* if they are all ones. As a result it is -1 or 0
 /// in all 32 bits.
+///
+/// Pass #QUVARDBS1C_TRUE or #QUVARDBS1C_FALSE. **The `true` of C and C++ is 1, which is set but is not
+/// True**: given as `forward` of LinearInterpol() it silently runs the inverse, and given as `lower`
+/// of Int05LU() it rounds up.
 typedef int32_t HostBool;
+
+/// True and False as the host has them.
+#define QUVARDBS1C_TRUE (-1)
+#define QUVARDBS1C_FALSE 0
 
 #ifdef __cplusplus
 #ifdef __clang__

@@ -44,7 +44,7 @@ bool isSupplementary(std::uint32_t value) { return value > kLastBmp && value <= 
 // The general way out, for text that holds a unit beyond 16 bits.
 BSTR allocatedWithPairs(const wchar_t* units, std::size_t length) {
   std::size_t pairs = 0;
-  for (std::size_t i = 0; i < length; ++i) pairs += isSupplementary(valueOf(units[i])) ? 1 : 0;
+  for (std::size_t i = 0; i < length; ++i) pairs += isSupplementary(valueOf(units[i])) ? 1U : 0U;
 
   const BSTR result = new char16_t[length + pairs + 1];
   char16_t* out = result;

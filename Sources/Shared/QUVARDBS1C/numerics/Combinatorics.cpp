@@ -37,7 +37,7 @@ constexpr double passed(double r, double q, int first, int last) {
 template <int row>
 constexpr auto kPassed = [] {
   constexpr int last = kStride * row;
-  std::array<double, kHighestSum + 1 - 2 * last> results{};
+  std::array<double, std::size_t{kHighestSum + 1 - 2 * last}> results{};
   for (std::size_t at = 0; at < results.size(); ++at) {
     const double q = static_cast<double>(at) + last;
     if constexpr (row == 1) {
