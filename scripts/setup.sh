@@ -1,7 +1,10 @@
 # shellcheck shell=bash disable=SC2034
 # Sourced by the scripts beside it. Nothing here writes to the standard output.
 
-root=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
+
+# The folder for all that is built.
+build=${QUVARDBS1C_BUILD_DIR:-$root/build}
 
 jobs=$(getconf _NPROCESSORS_ONLN)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$jobs}"
@@ -17,20 +20,44 @@ build_needs=(
 test_needs=(
   "${build_needs[@]}"
   gtest/gtest.h:libgtest-dev:googletest
+  pkg-config:pkg-config:pkgconf
 )
-check_needs=(
-  "${test_needs[@]}"
+# What each lane of scripts/check needs beside these.
+compiler_needs=(
   g++:g++:xcode
   clang++:clang:xcode
+)
+format_needs=(
   clang-format:clang-format:clang-format
+)
+tidy_needs=(
   clang-tidy:clang-tidy:llvm
+)
+script_needs=(
+  shellcheck:shellcheck:shellcheck
 )
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
   mpfr.h:libmpfr-dev:mpfr
 )
+package_needs=(
+  "${build_needs[@]}"
+  dpkg-shlibdeps:dpkg-dev:dpkg
+  debootstrap:debootstrap:debootstrap
+)
 
 say() { printf '%s\n' "$*" >&2; }
+
+# Says lines, and ends.
+fail() {
+  printf '%s\n' "$@" >&2
+  exit 1
+}
+
+# Runs a command as root.
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
 
 # Runs a command and shows its output only if it fails.
 quietly() {
@@ -43,8 +70,43 @@ quietly() {
   return "$status"
 }
 
-# Configures with CMake. A build tree that was moved, or whose compiler has gone, starts afresh.
-configure() { cmake "$@" >/dev/null 2>&1 || quietly cmake --fresh "$@"; }
+# Ends with a message where nothing can be built.
+need_build_folder() {
+  mkdir -p -- "$build" 2>/dev/null && [ -w "$build" ] && return
+  fail "Cannot write to $build. Name another folder for what is built, for instance:" \
+    "  QUVARDBS1C_BUILD_DIR=\"\$HOME/quvardbs1c-build\" $0"
+}
+
+# configure TREE PRESET [ARGUMENTS OF CMAKE]...: a build tree below the build folder. One that was
+# moved, or whose compiler has gone, starts afresh.
+configure() {
+  local cmake=(cmake -S "$root" -B "$build/$1" --preset "$2" "${@:3}")
+  (cd -- "$root" && "${cmake[@]}") >/dev/null 2>&1 ||
+    (cd -- "$root" && quietly "${cmake[@]}" --fresh)
+}
+
+# compile TREE [ARGUMENTS OF CMAKE]...: shows how far it is, and all that was printed if it fails.
+compile() {
+  local log=$build/$1/build.log status=0
+  cmake --build "$build/$1" "${@:2}" 2>&1 | tee -- "$log" | show_progress >&2 || status=$?
+  if [ "$status" -ne 0 ]; then
+    say "$(cat -- "$log")"
+    say "Failed with status $status: cmake --build $build/$1 ${*:2}"
+  fi
+  return "$status"
+}
+
+# The lines of a build that say how far it is: on a terminal in place, otherwise some of them.
+show_progress() {
+  local terminal=0
+  [ ! -t 2 ] || terminal=1
+  awk -v terminal="$terminal" '
+    /^\[ *[0-9]+(%|\/[0-9]+)\]/ {
+      if (terminal) { printf "\r\033[K%s", substr($0, 1, 78); fflush(); shown = 1 }
+      else if (NR == 1 || NR % 10 == 0) { print; fflush() }
+    }
+    END { if (shown) printf "\r\033[K" }'
+}
 
 on_macos() { [ "$(uname -s)" = Darwin ]; }
 
@@ -123,7 +185,6 @@ give_up_on_macos() {
 
 # Makes sure of the rows given: installs what is missing, or says what to install and ends.
 set_up() {
-  local as_root=(env DEBIAN_FRONTEND=noninteractive)
   look_for "$@"
   [ -n "$packages" ] || return 0
   ! on_macos || give_up_on_macos
@@ -133,14 +194,13 @@ set_up() {
     command -v sudo >/dev/null ||
       give_up "Run this as root, or install it as root:" \
         "  apt-get update && apt-get install --no-install-recommends $packages"
-    as_root=(sudo "${as_root[@]}")
   fi
 
   say "Installing $packages with apt-get; this may take some minutes."
-  quietly "${as_root[@]}" apt-get update || say "Going on with the package lists at hand."
+  quietly as_root apt-get update || say "Going on with the package lists at hand."
   # The packages are separate words.
   # shellcheck disable=SC2086
-  quietly "${as_root[@]}" apt-get install --yes --no-install-recommends $packages ||
+  quietly as_root env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends $packages ||
     give_up "apt-get could not install $packages."
   hash -r
   look_for "$@"
