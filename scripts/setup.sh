@@ -34,6 +34,7 @@ tidy_needs=(
   clang-tidy:clang-tidy:llvm
 )
 script_needs=(
+  "${build_needs[@]}"
   shellcheck:shellcheck:shellcheck
 )
 benchmark_needs=(
@@ -85,13 +86,13 @@ configure() {
     (cd -- "$root" && quietly "${cmake[@]}" --fresh)
 }
 
-# compile TREE [ARGUMENTS OF CMAKE]...: shows how far it is, and all that was printed if it fails.
+# compile TREE [ARGUMENTS OF CMAKE]...: shows how far it is, and the errors if it fails.
 compile() {
   local log=$build/$1/build.log status=0
   cmake --build "$build/$1" "${@:2}" 2>&1 | tee -- "$log" | show_progress >&2 || status=$?
   if [ "$status" -ne 0 ]; then
-    say "$(cat -- "$log")"
-    say "Failed with status $status: cmake --build $build/$1 ${*:2}"
+    say "$(grep -v '^\[' "$log" | head -n 40)"
+    say "Failed with status $status: cmake --build $build/$1 ${*:2} (all it printed is in $log)"
   fi
   return "$status"
 }
@@ -106,6 +107,13 @@ show_progress() {
       else if (NR == 1 || NR % 10 == 0) { print; fflush() }
     }
     END { if (shown) printf "\r\033[K" }'
+}
+
+# copy_checkout FOLDER: the checkout without what was built; FOLDER/build stays.
+copy_checkout() {
+  mkdir -p -- "$1"
+  find "$1" -mindepth 1 -maxdepth 1 ! -name build -exec rm -rf -- {} +
+  tar -C "$root" --exclude=./build --exclude=./.git -cf - . | tar -C "$1" -xf -
 }
 
 on_macos() { [ "$(uname -s)" = Darwin ]; }

@@ -106,8 +106,8 @@ compile_by_pkg_config() {
   local flags cxx=$scratch/cxx c=$scratch/c
   flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs QUVARDBS1C)
   # pkg-config quotes what a shell would take apart, for eval or for make.
-  eval "quietly \$CXX ${CXXFLAGS:-} -o \$cxx \$consumer/consumer.cpp $flags"
-  eval "quietly \$CC ${CFLAGS:-} -std=c11 -o \$c \$consumer/consumer.c $flags"
+  eval "quietly \"\$CXX\" ${CXXFLAGS:-} -o \"\$cxx\" \"\$consumer/consumer.cpp\" $flags"
+  eval "quietly \"\$CC\" ${CFLAGS:-} -std=c11 -o \"\$c\" \"\$consumer/consumer.c\" $flags"
   expect_right "$cxx"
   expect_right "$c"
 }
@@ -143,7 +143,7 @@ libdir_of() { dirname -- "$(find "$1" -name QUVARDBS1C.dll)"; }
 load() {
   local host=$scratch/loader libdir
   # shellcheck disable=SC2086
-  quietly $CC ${CFLAGS:-} -o "$host" "$consumer/loader.c" -ldl
+  quietly "$CC" ${CFLAGS:-} -o "$host" "$consumer/loader.c" -ldl
   quietly cmake --install "$BUILT" --prefix "$prefix"
   libdir=$(libdir_of "$prefix")
   mkdir -- "$scratch/links"

@@ -20,20 +20,20 @@ Lines linesOf(const std::string& command) {
 
 // The routines that the header declares, an overload twice.
 const std::string kDeclared =
-    "sed -nE 's/^QUVARDBS1C_API .*[ *]([A-Za-z0-9_]+)\\(.*/\\1/p' '" QUVARD_HEADER "'";
+    "sed -nE 's/^QUVARDBS1C_API .*[ *]([A-Za-z0-9_]+)\\(.*/\\1/p' " QUVARD_HEADER;
 const std::string kListed = "sed '/^#/d' " QUVARD_EXPORT_LISTS;
 
 }  // namespace
 
 TEST(Exports, HeaderListAndLibraryAgree) {
   ASSERT_GT(linesOf(kDeclared).size(), 0U);
-  EXPECT_EQ(linesOf(kDeclared), linesOf(kListed + " | c++filt | cut -d'(' -f1"));
+  EXPECT_EQ(linesOf(kDeclared), linesOf(kListed + " | c++filt -n | cut -d'(' -f1"));
   EXPECT_EQ(linesOf(kListed), linesOf(QUVARD_SYMBOLS));
 }
 
 TEST(Exports, EveryDeclarationHasAnExample) {
-  const Lines behindExamples = linesOf(
-      "sed -n '/^\\/\\/\\/ @b Example: `.*`$/{n;/^QUVARDBS1C_API /p;}' '" QUVARD_HEADER "'");
+  const Lines behindExamples =
+      linesOf("sed -n '/^\\/\\/\\/ @b Example: `.*`$/{n;/^QUVARDBS1C_API /p;}' " QUVARD_HEADER);
   EXPECT_EQ(behindExamples.size(), linesOf(kDeclared).size());
 }
 
