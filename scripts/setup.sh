@@ -73,6 +73,9 @@ quietly() {
 
 # Ends with a message where nothing can be built.
 need_build_folder() {
+  case $root$build in
+    *\"*) fail "CMake builds in no path with a double quote: $root, $build" ;;
+  esac
   mkdir -p -- "$build" 2>/dev/null && [ -w "$build" ] && return
   fail "Cannot write to $build. Name another folder for what is built, for instance:" \
     "  QUVARDBS1C_BUILD_DIR=\"\$HOME/quvardbs1c-build\" $0"
