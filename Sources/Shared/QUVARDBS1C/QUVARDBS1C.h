@@ -37,16 +37,18 @@
 /// The version of this header. A later version of the library runs every program that was built with
 /// an earlier header.
 #define QUVARDBS1C_VERSION "1.1.0"
-#define QUVARDBS1C_VERSION_MAJOR 1
-#define QUVARDBS1C_VERSION_MINOR 1
-#define QUVARDBS1C_VERSION_PATCH 0
+#define QUVARDBS1C_VERSION_MAJOR 1  ///< The first number of the version.
+#define QUVARDBS1C_VERSION_MINOR 1  ///< The second.
+#define QUVARDBS1C_VERSION_PATCH 0  ///< The third.
 
+/// Marks an exported routine.
 #define QUVARDBS1C_API __attribute__((visibility("default")))
 
 #ifdef __cplusplus
 #include <string>
 /// A host string: one pointer to the first 16-bit unit of a zero-terminated run. Null is legal.
 typedef char16_t* BSTR;
+/// Marks a routine that does not throw, to C++.
 #define QUVARDBS1C_NOEXCEPT noexcept
 #else
 typedef uint_least16_t* BSTR;
@@ -77,7 +79,10 @@ typedef int32_t HostBool;
 extern "C" {
 #endif
 
-/// @name The host boundary (host/)
+/// @defgroup host The host boundary (host/HostFrame)
+///
+/// The way from a host string to wide text. How host strings are made and released is in
+/// QUVARDCR1C.h.
 /// @{
 
 #ifdef __cplusplus
@@ -90,7 +95,9 @@ QUVARDBS1C_API std::wstring convToWstring(BSTR handle);
 #endif
 
 /// @}
-/// @name Substrings, joins, trims and lower-casing (strings/)
+/// @defgroup substrings Substrings, joins, trims, lower case (strings/Substrings, Trims, LowerCase)
+///
+/// The ends of a text: taken, joined to others, freed of blanks; and all of it in lower case.
 /// @{
 
 #ifdef __cplusplus
@@ -188,7 +195,9 @@ QUVARDBS1C_API BSTR VB_StrRTrim(BSTR s);
 QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 
 /// @}
-/// @name Removal (strings/)
+/// @defgroup removal Removal (strings/Removal)
+///
+/// What is removed leaves no gap, and what stays keeps its order.
 /// @{
 
 #ifdef __cplusplus
@@ -244,10 +253,22 @@ QUVARDBS1C_API BSTR VB_RemoveNonNumericChar(BSTR s);
 QUVARDBS1C_API BSTR VB_RemoveColon(BSTR s);
 
 /// @}
-/// @name Search and counting (strings/)
+/// @defgroup search Search and counting (strings/Search)
+///
+/// Whether units of a text occur in another, and how often a pattern does.
 /// @{
 
 #ifdef __cplusplus
+// C++ linkage: the symbol encodes the types of the arguments, as do those of Replace() and LCD2().
+extern "C++" {
+/// Whether @p text and @p chars have a unit in common.
+///
+/// @return -1 or 0
+/// @throws std::bad_alloc
+/// @b Example: `CommonChar(L"abc", L"xyzb") == -1`
+QUVARDBS1C_API HostBool CommonChar(std::wstring text, std::wstring chars);
+}
+
 /// The number of occurrences of @p pattern in @p text, from left to right and without overlap. Both
 /// end at their first zero unit.
 ///
@@ -272,7 +293,9 @@ QUVARDBS1C_API HostBool VB_CommonChar(BSTR text, BSTR chars);
 QUVARDBS1C_API int32_t ChrCount(BSTR text, BSTR pattern);
 
 /// @}
-/// @name Slices by position and delimiter (strings/)
+/// @defgroup slices Slices by position and delimiter (strings/Slices)
+///
+/// The part of a text between two positions or two delimiters.
 ///
 /// Positions count from 1. Delimiters are of one unit each: of two that are both not empty, one of
 /// two units or more gives the empty string. An empty delimiter is found where its search begins.
@@ -325,22 +348,43 @@ QUVARDBS1C_API BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing);
 QUVARDBS1C_API BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing);
 
 /// @}
-/// @name Replacement (strings/)
+/// @defgroup replacement Replacement (strings/Replacement)
+///
+/// Patterns and what takes their place, everywhere in a text.
 ///
 /// Occurrences are handled from left to right and do not overlap. What a replacement puts in is not
 /// searched again. An empty pattern has no occurrences. Linear in text plus result.
 /// @{
 
+#ifdef __cplusplus
+extern "C++" {
+/// @p text with every occurrence of @p pattern replaced by @p replacement.
+///
+/// @throws std::bad_alloc
+/// @b Example: `Replace(L"a,b,c", std::wstring(L","), std::wstring(L", ")) == L"a, b, c"`
+QUVARDBS1C_API std::wstring Replace(std::wstring text, std::wstring pattern,
+                                    std::wstring replacement);
+
+/// The same with a pattern and a replacement that end at their first zero unit; neither may be
+/// null.
+///
+/// @throws std::bad_alloc
+/// @b Example: `Replace(L"aab", L"ab", L"b") == L"ab"`
+QUVARDBS1C_API std::wstring Replace(std::wstring text, const wchar_t* pattern,
+                                    const wchar_t* replacement);
+}
+#endif
+
 /// @p text with every occurrence of @p pattern replaced.
 ///
-/// With a pattern and a replacement of exactly one unit each, **the units of @p text itself are
+/// With a pattern and a replacement of exactly one unit each, **the units of `text` itself are
 /// changed** too, and must not be in use on another thread; this is the one routine that writes to
 /// an argument.
 ///
 /// @param text         host string
 /// @param pattern      what to look for; null: nothing is done, and @p text itself is the result
 /// @param replacement  what to put in its place; null and empty: nothing
-/// @return             new host string; but **the handle @p text itself**, not a copy, if @p text
+/// @return             new host string; but **the handle `text` itself**, not a copy, if @p text
 ///                     or @p pattern is null
 /// @throws std::bad_alloc
 /// @b Example: `VB_Replace(B(u"a-b-c"), B(u"-"), B(u"--")) == B(u"a--b--c")`
@@ -356,7 +400,9 @@ QUVARDBS1C_API BSTR VB_Replace2(BSTR text, BSTR pattern1, BSTR replacement1, BST
                                 BSTR replacement2);
 
 /// @}
-/// @name Phrases of an adjective and a noun (phrases/)
+/// @defgroup adjective_noun Phrases of an adjective and a noun (phrases/AdjectiveNoun, FirstLetter)
+///
+/// Word order, blanks and letter case as a language has them.
 ///
 /// A language code is one of "ES", "FR", "IT", "PT", "PL", "US", "DE", "JP", "CS", "CN", compared
 /// whole and with case.
@@ -429,7 +475,9 @@ QUVARDBS1C_API BSTR VB_LowerFirst(BSTR text, BSTR language, HostBool forceDE);
 QUVARDBS1C_API BSTR VB_UpperFirst(BSTR text);
 
 /// @}
-/// @name Wrapping and inflection (phrases/)
+/// @defgroup wrapping Wrapping and inflection (phrases/Wrapping, Inflection)
+///
+/// A text between two characters, and the form of a word that goes with a count.
 /// @{
 
 #ifdef __cplusplus
@@ -481,7 +529,9 @@ QUVARDBS1C_API BSTR VB_BStrB(BSTR text);
 QUVARDBS1C_API BSTR VB_SingPlural(BSTR singular, BSTR plural, int32_t count);
 
 /// @}
-/// @name Markup tokens (phrases/)
+/// @defgroup markup Markup tokens (phrases/MarkupTokens)
+///
+/// Three characters that a text may carry as tokens.
 /// @{
 
 #ifdef __cplusplus
@@ -501,7 +551,9 @@ QUVARDBS1C_API std::wstring QUVARDHTMLProcessor(std::wstring text);
 QUVARDBS1C_API BSTR VB_QUVARDHTMLProcessor(BSTR text);
 
 /// @}
-/// @name Number patterns (formats/)
+/// @defgroup patterns Number patterns (formats/DecimalFormats, ValueFormats)
+///
+/// The patterns by which the host prints a number.
 ///
 /// A pattern is in the host's notation: "0" a digit that is always printed, "#" a digit that is
 /// printed only when significant, "." the decimal point, "E-" and "E+" scientific notation (with
@@ -592,7 +644,9 @@ QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool us
                                      HostBool keepDecimals);
 
 /// @}
-/// @name Elementary functions with guards (numerics/)
+/// @defgroup elementary Elementary functions with guards (numerics/Elementary)
+///
+/// Functions of one or two doubles, with a fixed value where an argument is out of range.
 ///
 /// What these and the other numerics compute themselves has the same bits on every compiler and
 /// processor: IEEE doubles in the order of evaluation given. What passes through `log`, `exp`,
@@ -673,7 +727,9 @@ QUVARDBS1C_API double FSign(double a, double b) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API double LogExpAPlusExpB(double a, double b) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @name Exchanges (numerics/)
+/// @defgroup exchanges Exchanges (numerics/Exchanges)
+///
+/// Two variables exchange what they hold.
 ///
 /// Both pointers must be valid. Given the same pointer twice, the value stays.
 /// @{
@@ -695,7 +751,9 @@ QUVARDBS1C_API void SwapDbl(double* a, double* b) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @name Gamma function and combinatorics (numerics/)
+/// @defgroup combinatorics Gamma function and combinatorics (numerics/Gamma, Combinatorics)
+///
+/// The logarithm of the gamma function, factorials, binomial coefficients and their sums.
 /// @{
 
 /// The natural logarithm of the gamma function.
@@ -761,7 +819,9 @@ QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API double SumCnk(double n, double from, double to) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @name Whole numbers, remainders and divisors (numerics/)
+/// @defgroup divisors Whole numbers and divisors (numerics/WholeNumbers, Remainders, Divisors)
+///
+/// Whether a number is whole or even, remainders, and largest common divisors.
 ///
 /// Where a double is taken as a 32-bit integer, it is truncated toward zero. One that does not fit
 /// then, and NaN, count as -2147483648.
@@ -784,6 +844,19 @@ QUVARDBS1C_API double ModDbl(double a, double b) QUVARDBS1C_NOEXCEPT;
 /// @return not negative, but for -2147483648, whose magnitude has no place in 32 bits
 /// @b Example: `LCD(-12, 18) == 6`
 QUVARDBS1C_API int32_t LCD(int32_t a, int32_t b) QUVARDBS1C_NOEXCEPT;
+
+#ifdef __cplusplus
+extern "C++" {
+/// The largest common divisor of two whole numbers held in doubles.
+///
+/// Only the truncated values take part; but if @p a is a multiple of @p b as truncated, the result
+/// is the magnitude of @p b as it was: `LCD2(6, 2.5)` is 2.5, `LCD2(7, 2.5)` is 1.
+///
+/// @return the magnitude of @p a if @p b is 0
+/// @b Example: `LCD2(12, 18) == 6`
+QUVARDBS1C_API double LCD2(double a, double b) QUVARDBS1C_NOEXCEPT;
+}
+#endif
 
 /// The largest common divisor of two decimal numbers, for instance 0.25 of 0.5 and 0.75.
 ///
@@ -820,7 +893,9 @@ QUVARDBS1C_API HostBool IsEven(double x) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API HostBool IsEvenLng(int32_t n) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @name Rounding to whole numbers and halves (numerics/)
+/// @defgroup rounding Rounding to whole numbers and halves (numerics/HalfUnits)
+///
+/// A number moved to a grid of whole numbers or of halves.
 ///
 /// @p half counts if it is set; it makes the grid one of halves.
 ///
@@ -863,7 +938,9 @@ QUVARDBS1C_API double Int05c(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API double Int05LU(double v, HostBool half, HostBool lower) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @name Interpolation (numerics/)
+/// @defgroup interpolation Interpolation (numerics/Interpolation)
+///
+/// The line through two points and the parabola through three, in both directions.
 ///
 /// @p forward counts if it is True: the value at an abscissa is worked out; otherwise the abscissa,
 /// or abscissae, of a value. Points may stand in any order. Every pointer must be valid, also one
@@ -925,43 +1002,5 @@ QUVARDBS1C_API int32_t QuadraticInterpol(double x1, double x2, double x3, double
 #pragma clang diagnostic pop
 #endif
 #endif
-
-/// @name Routines of C++ linkage, whose symbols encode their argument types (strings/, numerics/)
-/// @{
-
-#ifdef __cplusplus
-/// Whether @p text and @p chars have a unit in common.
-///
-/// @return -1 or 0
-/// @throws std::bad_alloc
-/// @b Example: `CommonChar(L"abc", L"xyzb") == -1`
-QUVARDBS1C_API HostBool CommonChar(std::wstring text, std::wstring chars);
-
-/// @p text with every occurrence of @p pattern replaced by @p replacement.
-///
-/// @throws std::bad_alloc
-/// @b Example: `Replace(L"a,b,c", std::wstring(L","), std::wstring(L", ")) == L"a, b, c"`
-QUVARDBS1C_API std::wstring Replace(std::wstring text, std::wstring pattern,
-                                    std::wstring replacement);
-
-/// The same with a pattern and a replacement that end at their first zero unit; neither may be
-/// null.
-///
-/// @throws std::bad_alloc
-/// @b Example: `Replace(L"aab", L"ab", L"b") == L"ab"`
-QUVARDBS1C_API std::wstring Replace(std::wstring text, const wchar_t* pattern,
-                                    const wchar_t* replacement);
-
-/// The largest common divisor of two whole numbers held in doubles.
-///
-/// Only the truncated values take part; but if @p a is a multiple of @p b as truncated, the result
-/// is the magnitude of @p b as it was: `LCD2(6, 2.5)` is 2.5, `LCD2(7, 2.5)` is 1.
-///
-/// @return the magnitude of @p a if @p b is 0
-/// @b Example: `LCD2(12, 18) == 6`
-QUVARDBS1C_API double LCD2(double a, double b) QUVARDBS1C_NOEXCEPT;
-#endif
-
-/// @}
 
 #endif

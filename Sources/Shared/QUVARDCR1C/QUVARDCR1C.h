@@ -17,11 +17,14 @@
 
 #include <stddef.h>
 
+/// Marks an exported service.
 #define QUVARDCR1C_API __attribute__((visibility("default")))
 
 #ifdef __cplusplus
 #include <string>
+/// A host string: one pointer to the first 16-bit unit of a zero-terminated run. Null is legal.
 typedef char16_t* BSTR;
+/// One unit of a host string.
 typedef char16_t QUVARDUnit16;
 extern "C" {
 #else
@@ -29,6 +32,14 @@ extern "C" {
 typedef uint_least16_t* BSTR;
 typedef uint_least16_t QUVARDUnit16;
 #endif
+
+/// @defgroup host_strings Host strings, in the sibling library (QUVARDCR1C)
+///
+/// How host strings are made, read and released.
+///
+/// Callers make them with SysAllocString16() and release them with releaseBSTR(). The other services
+/// are what the routines of QUVARDBS1C call.
+/// @{
 
 /// A new host string with the units at @p units, which end at their first zero unit.
 ///
@@ -84,5 +95,7 @@ QUVARDCR1C_API BSTR convertWstringToBSTR(std::wstring text);
 #endif
 }
 #endif
+
+/// @}
 
 #endif
