@@ -37,6 +37,10 @@ script_needs=(
   "${build_needs[@]}"
   shellcheck:shellcheck:shellcheck
 )
+docs_needs=(
+  doxygen:doxygen:doxygen
+  dot:graphviz:graphviz
+)
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
   mpfr.h:libmpfr-dev:mpfr

@@ -66,8 +66,9 @@ typedef uint_least16_t* BSTR;
 /// of Int05LU() it rounds up.
 typedef int32_t HostBool;
 
-/// True and False as the host has them.
+/// True as the host has it.
 #define QUVARDBS1C_TRUE (-1)
+/// False as the host has it.
 #define QUVARDBS1C_FALSE 0
 
 #ifdef __cplusplus
