@@ -194,7 +194,8 @@ int main(int count, char** arguments) {
   }
   try {
     Report(count == 3 ? arguments[1] : "linear", count == 3 ? arguments[2] : "Model").print();
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) throw std::runtime_error("cannot write the report");
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+      throw std::runtime_error("cannot write the report");
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "report: %s\n", error.what());
