@@ -64,6 +64,21 @@ as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+# Whether the .NET SDK is there, from version 8 on, which programs in Visual Basic need.
+has_dotnet() {
+  local newest
+  newest=$(dotnet --list-sdks 2>/dev/null | tail -n 1) || return 1
+  [ -n "$newest" ] && [ "${newest%%.*}" -ge 8 ]
+}
+
+# Says what to install, and ends, if it is not there.
+require_dotnet() {
+  has_dotnet && return
+  missing=("dotnet, the .NET SDK, version 8 or newer")
+  ! on_macos || give_up "Install it, then run this again:" "  brew install dotnet"
+  give_up "Install it as its maker, Microsoft, tells, then run this again. Debian has no package of it."
+}
+
 # Runs a command and shows its output only if it fails.
 quietly() {
   local output status=0
