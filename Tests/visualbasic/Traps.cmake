@@ -1,0 +1,37 @@
+# Fails unless each line of Traps.vb gets from the compiler the errors that its comment names, and no
+# other line gets any.
+execute_process(COMMAND "${CMAKE_COMMAND}" --build "${BUILD}" --target VisualBasicTraps
+  OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status)
+string(REGEX MATCHALL "[A-Za-z.]+\\([0-9]+,[0-9]+\\): error [A-Z]+[0-9]+" errors "${output}")
+set(actual "")
+foreach(error IN LISTS errors)
+  string(REGEX REPLACE "(.*)\\(([0-9]+),.*error (.*)" "\\1 line \\2: \\3" error "${error}")
+  list(APPEND actual "${error}")
+endforeach()
+list(REMOVE_DUPLICATES actual)
+
+set(expected "")
+set(number 0)
+file(READ "${TRAPS}" text)
+string(REPLACE "\n" ";" lines "${text}")
+foreach(line IN LISTS lines)
+  math(EXPR number "${number} + 1")
+  string(REGEX MATCHALL "BC[0-9]+" codes "${line}")
+  foreach(code IN LISTS codes)
+    list(APPEND expected "Traps.vb line ${number}: ${code}")
+  endforeach()
+endforeach()
+
+set(compiled ${expected})
+list(REMOVE_ITEM compiled ${actual} "")
+set(unexpected ${actual})
+list(REMOVE_ITEM unexpected ${expected} "")
+if(NOT actual OR NOT expected)
+  message(FATAL_ERROR "no error that names a line, status ${status}:\n${output}")
+endif()
+if(compiled OR unexpected)
+  list(JOIN compiled "\n  " compiled)
+  list(JOIN unexpected "\n  " unexpected)
+  message(FATAL_ERROR "expected errors that did not come:\n  ${compiled}\n"
+    "errors that were not expected:\n  ${unexpected}")
+endif()
