@@ -7,18 +7,18 @@ file(MAKE_DIRECTORY "${outDir}")
 # The headers as a C caller sees them.
 foreach(header QUVARDBS1C QUVARDCR1C)
   get_target_property(headerDir ${header} SOURCE_DIR)
-  add_custom_command(OUTPUT "${outDir}/${header}.i"
-    COMMAND "${CMAKE_C_COMPILER}" -E -P "${headerDir}/${header}.h" > "${outDir}/${header}.i"
+  add_custom_command(OUTPUT "${outDir}/${header}ForC.txt"
+    COMMAND "${CMAKE_C_COMPILER}" -E -P "${headerDir}/${header}.h" > "${outDir}/${header}ForC.txt"
     DEPENDS "${headerDir}/${header}.h" VERBATIM)
 endforeach()
 file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/VisualBasicPaths.h" CONTENT
-"#define QUVARD_C_HEADER \"${outDir}/QUVARDBS1C.i\"
-#define QUVARD_C_SIBLING_HEADER \"${outDir}/QUVARDCR1C.i\"
+"#define QUVARD_C_HEADER \"${outDir}/QUVARDBS1CForC.txt\"
+#define QUVARD_C_SIBLING_HEADER \"${outDir}/QUVARDCR1CForC.txt\"
 #define QUVARD_VB \"${hostDir}/QUVARDBS1C.vb\"
 #define QUVARD_BAS \"${hostDir}/QUVARDBS1C.bas\"
 ")
 quvard_test_program(QUVARDVisualBasicTests
-  SOURCES visualbasic/Declarations.cpp "${outDir}/QUVARDBS1C.i" "${outDir}/QUVARDCR1C.i"
+  SOURCES visualbasic/Declarations.cpp "${outDir}/QUVARDBS1CForC.txt" "${outDir}/QUVARDCR1CForC.txt"
   LIBRARIES)
 
 # A program of .NET cannot load libraries with sanitizers in them.
@@ -35,6 +35,7 @@ add_custom_command(OUTPUT "${translated}"
   COMMAND sed -f "${testDir}/translate.sed" -e "s|/usr/lib/libSystem.B.dylib|${memmoveLibrary}|"
     "${hostDir}/QUVARDBS1C.bas" > "${translated}"
   DEPENDS "${hostDir}/QUVARDBS1C.bas" "${testDir}/translate.sed" VERBATIM)
+add_custom_target(TranslatedDeclarations DEPENDS "${translated}")
 
 function(visual_basic_program name)
   quvard_visual_basic_program(${name} "${testDir}/Program.vbproj" SOURCES ${ARGN})
@@ -44,6 +45,8 @@ visual_basic_program(VisualBasicCalls ${calls} "${hostDir}/QUVARDBS1C.vb")
 visual_basic_program(TranslatedCalls ${calls} "${translated}" "${testDir}/StrPtr.vb")
 visual_basic_program(TranslatedReport
   "${hostDir}/Report/Report.vb" "${translated}" "${testDir}/StrPtr.vb")
+add_dependencies(TranslatedCalls TranslatedDeclarations)
+add_dependencies(TranslatedReport TranslatedDeclarations)
 visual_basic_program(VisualBasicTraps "${testDir}/Traps.vb" "${hostDir}/QUVARDBS1C.vb")
 add_custom_target(VisualBasicPrograms ALL)
 add_dependencies(VisualBasicPrograms
@@ -54,13 +57,16 @@ foreach(program VisualBasicReport TranslatedReport)
     "-DDOTNET=${QUVARDBS1C_DOTNET}" "-DPROGRAM=$<TARGET_FILE_DIR:QUVARDBS1C>/${program}.dll"
     "-DREPORT=$<TARGET_FILE:report>" "-DFOLDER=${outDir}/${program}"
     -P "${testDir}/SameReport.cmake")
+  set_tests_properties(${program}.IsThatOfTheCppHost PROPERTIES TIMEOUT 600)
 endforeach()
 foreach(program VisualBasicCalls TranslatedCalls)
   add_test(NAME ${program}.GiveTheResults
     COMMAND "${QUVARDBS1C_DOTNET}" "$<TARGET_FILE_DIR:QUVARDBS1C>/${program}.dll")
+  set_tests_properties(${program}.GiveTheResults PROPERTIES TIMEOUT 600)
 endforeach()
 add_test(NAME VisualBasic.TrapsDoNotCompile COMMAND "${CMAKE_COMMAND}"
   "-DBUILD=${PROJECT_BINARY_DIR}" "-DTRAPS=${testDir}/Traps.vb" -P "${testDir}/Traps.cmake")
+set_tests_properties(VisualBasic.TrapsDoNotCompile PROPERTIES TIMEOUT 600)
 
 foreach(part first snippets applications)
   set(declarations "${hostDir}/QUVARDBS1C.vb")
@@ -70,6 +76,6 @@ foreach(part first snippets applications)
   add_test(NAME VisualBasic.PageCode.${part} COMMAND "${testDir}/PageCode.sh"
     ${part} "${outDir}/${part}" "$<TARGET_FILE_DIR:QUVARDBS1C>" ${declarations})
   # No noise, and no process that stays behind.
-  set_tests_properties(VisualBasic.PageCode.${part} PROPERTIES ENVIRONMENT
+  set_tests_properties(VisualBasic.PageCode.${part} PROPERTIES TIMEOUT 600 ENVIRONMENT
     "DOTNET=${QUVARDBS1C_DOTNET};DOTNET_CLI_HOME=${PROJECT_BINARY_DIR}/dotnet;DOTNET_NOLOGO=1;DOTNET_CLI_TELEMETRY_OPTOUT=1;DOTNET_GENERATE_ASPNET_CERTIFICATE=false;MSBUILDDISABLENODEREUSE=1;UseSharedCompilation=false")
 endforeach()
