@@ -34,8 +34,6 @@ function(quvard_shared_library name)
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}.exports")
     list(JOIN symbols "\n" content)
     set(content "${content}\n")
-    set_target_properties(${name} PROPERTIES
-      INSTALL_NAME_DIR "@loader_path" BUILD_WITH_INSTALL_NAME_DIR ON)
     target_link_options(${name} PRIVATE "LINKER:-exported_symbols_list,${script}")
   else()
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
