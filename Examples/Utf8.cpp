@@ -61,7 +61,7 @@ std::string utf8OfUnits(const std::u16string& units) {
     if (pair) {
       append(utf8, 0x10000 + ((unit - 0xD800u) << 10) + (units[++at] - 0xDC00u));
     } else {
-      append(utf8, unit >= 0xD800 && unit < 0xE000 ? kReplacement : unit);
+      append(utf8, unit >= 0xD800 && unit < 0xE000 ? kReplacement : static_cast<char32_t>(unit));
     }
   }
   return utf8;

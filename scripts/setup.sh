@@ -41,6 +41,14 @@ docs_needs=(
   doxygen:doxygen:doxygen
   dot:graphviz:graphviz
 )
+macos_needs=(
+  "${build_needs[@]}"
+  npm:npm:node
+  llvm-objdump:llvm:llvm
+)
+libcxx_needs=(
+  "c++/v1/string.h:libc++-dev libc++abi-dev:llvm"
+)
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
   mpfr.h:libmpfr-dev:mpfr
