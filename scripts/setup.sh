@@ -46,6 +46,11 @@ macos_needs=(
   npm:npm:node
   llvm-objdump:llvm:llvm
 )
+interface_needs=(
+  "${build_needs[@]}"
+  g++:g++:xcode
+  abidw:abigail-tools:libabigail
+)
 libcxx_needs=(
   "c++/v1/string.h:libc++-dev libc++abi-dev:llvm"
 )
