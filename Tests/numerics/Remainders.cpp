@@ -21,7 +21,8 @@ TEST(Remainders, Mod) {
 TEST(Remainders, ModDbl) {
   expectRows("ModDbl", ModDbl, {7.5, 2, 1.5}, {-7.5, 2, 0.5}, {7.5, -2, -0.5}, {-7.5, -2, -1.5},
              {7.5, 0, kNaN}, {1, 0.1, 0.0}, {0.3, 0.1, 0.09999999999999998}, {kInf, 2, kNaN},
-             {2, kInf, kNaN}, {-0.0, 2, 0.0}, {1e300, 3, 1e300 - std::floor(1e300 / 3) * 3});
+             {2, kInf, kNaN}, {-0.0, 2, 0.0}, {1e300, 1e-300, -kInf}, {1.7e308, -1.2e308, -kInf},
+             {1e-300, -1e300, 1e-300}, {1e300, 3, 1e300 - std::floor(1e300 / 3) * 3});
 }
 
 }  // namespace

@@ -16,8 +16,8 @@ TEST(WholeNumbers, IsLong) {
 TEST(WholeNumbers, IsEven) {
   expectRows("IsEven", IsEven, {4, -1}, {-0.0, -1}, {-2, -1}, {1e300, -1}, {0x1p53, -1},
              {4e-16, -1}, {below(0x1p-51), -1}, {3, 0}, {-3, 0}, {2.5, 0}, {0.5, 0},
-             {above(2.0), 0}, {0x1p-51, 0}, {-1e-16, 0}, {0x1p53 - 1, 0}, {kInf, 0}, {-kInf, 0},
-             {kNaN, 0});
+             {above(2.0), 0}, {0x1p-51, 0}, {-1e-16, 0}, {-kTiny, -1}, {below(-kTiny), 0},
+             {0x1p53 - 1, 0}, {kInf, 0}, {-kInf, 0}, {kNaN, 0});
   expectRows("IsEvenLng", IsEvenLng, {kLowest, -1}, {kHighest, 0}, {0, -1}, {-1, 0}, {-6, -1},
              {7, 0});
 }

@@ -647,15 +647,19 @@ QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool us
 /// @}
 /// @defgroup elementary Elementary functions with guards (numerics/Elementary)
 ///
-/// Functions of one or two doubles, with a fixed value where an argument is out of range.
+/// A constant, and functions of one or two doubles. sqr() and expm1x() give a fixed value for an
+/// argument that they refuse.
 ///
 /// What these and the other numerics compute themselves has the same bits on every compiler and
-/// processor: IEEE doubles in the order of evaluation given. What passes through `log`, `exp`,
-/// `pow`, `log10` or `atan` is as good as the platform's function of that name.
+/// processor: IEEE doubles in a fixed order of evaluation. (The sign and the payload of a NaN do
+/// not count.) What passes through `log`, `exp`, `pow`, `log10` or `atan` is as good as the
+/// platform's function of that name. All of it holds in the usual floating-point environment:
+/// rounding to nearest, and no flushing of subnormals to zero. Floating-point status flags, and
+/// `errno` where the platform's functions use it, are left as the operations set them.
 /// @{
 
-/// The constant 3.14159265358979, which is 7 units in the last place below pi. Twice `ASin(1)`
-/// equals it.
+/// The constant 3.14159265358979, which is 7 units in the last place below the double closest to
+/// pi. Twice `ASin(1)` equals it.
 ///
 /// @b Example: `Pi() == 3.14159265358979`
 QUVARDBS1C_API double Pi(void) QUVARDBS1C_NOEXCEPT;
@@ -689,8 +693,9 @@ QUVARDBS1C_API double expm1x(double x) QUVARDBS1C_NOEXCEPT;
 
 /// The arcsine of @p x in radians, as atan(x / sqr((1 - x) * (x + 1))).
 ///
-/// @param x  from -1 to 1; beyond, the result is close to 0 with the sign opposite to @p x, and
-///           nothing tells it from an arcsine
+/// @param x  from -1 to 1; beyond, sqr() refuses its argument, and the result is that of atan(x /
+///           -1.79769313486231e+308): its sign is opposite to that of @p x, it is at most 0.006 in
+///           magnitude up to 1e306 and half of pi at infinity, and nothing tells it from an arcsine
 /// @return   at 1 and -1 the constants 1.570796326794895 and -1.570796326794895; 0.0 for both zeros
 /// @b Example: `ASin(1) == 1.570796326794895`
 QUVARDBS1C_API double ASin(double x) QUVARDBS1C_NOEXCEPT;
@@ -759,17 +764,17 @@ QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 
 /// The natural logarithm of the gamma function.
 ///
-/// Method: Lanczos approximation with g = 7 and nine coefficients (C. Lanczos, 1964), whose small
-/// terms are added first. 0.0 exactly at 1.
+/// Method: Lanczos approximation with g = 7 and nine coefficients (C. Lanczos, 1964), whose terms
+/// are added from the last to the first, and then the constant. 0.0 exactly at 1.
 ///
 /// Accuracy: relative error at most 1.1e-14 for x from 0.01 to 0.5, 5e-15 from 3 to 100 and 8e-16
 /// from 100 to 2.5e305. From 0.5 to 3, with zeros at 1 and 2, absolute error at most 4e-15. Below
-/// 0.01 the rounding of 7 + x counts: absolute error up to 4.5e-16 / x from 1e-12 on, and no digit
-/// is right where x is near 4.4e-16.
+/// 0.01 the rounding of 7 + x counts: absolute error up to 4.5e-16 / x from 1e-12 on, and up to 0.7
+/// from 4.5e-16 to 1e-12.
 ///
-/// @param x  positive. From -6.5 up to 0 the formula runs as it is: NaN from -1 up to 0, from -3 up
-///           to -2, from -5 up to -4 and from about -6.19 up to -6; +infinity at -2, -4, -6, -6.5
-///           and where abs(x) is at most 4.4e-16; far off below -6.19
+/// @param x  positive. From -6.5 up to 0 the formula runs as it is: +infinity at -6.5, -6 and -4
+///           and within 4.4e-16 of -2 and 0; else NaN from -1 up to 0, from -3 up to -2, from -5 up
+///           to -4 and from about -6.19 up to -6; far off from -6.5 to -6.19
 /// @return   -1.79769313486231e+308 for @p x below -6.5; +infinity from about 2.56e305; NaN for
 ///           +infinity
 /// @b Example: `GammaLn(0.5) > 0.57236494292 && GammaLn(0.5) < 0.57236494293`
@@ -794,16 +799,17 @@ QUVARDBS1C_API double Fact(int32_t n) QUVARDBS1C_NOEXCEPT;
 /// | m below 2                | 1 + q                                                         |
 /// | m from 2                 | r = 1 + q, then for i = 2 to m: r = ((q + i) * r) / i         |
 ///
+/// Truncated is toward zero to a 32-bit integer; what does not fit, and NaN, counts as -2147483648.
 /// Fractions and negative numbers are not refused: the table holds for them as it stands. Where
 /// there are passes at all, q is finite and at least m. Each then multiplies r by 2 or more, but
 /// for rounding, so that r is infinite after at most 515 of them, whatever the arguments. No later
-/// pass changes that, and none is run.
+/// pass changes that.
 ///
-/// Accuracy: exact for whole arguments as long as all products stay below 2^53; within 38 units in
-/// the last place for whole n up to 1020.
+/// Accuracy, for whole n and k from 0 to n: exact as long as all products are at most 2^53; within
+/// 38 units in the last place for n up to 1020.
 ///
 /// @return +infinity if the coefficient, or a product on the way to it, is out of range; 1 + k if n
-///         - k is 2147483648 or more and k fits 32 bits
+///         - k is 2147483648 or more and k is neither 0 nor below -2147483648
 /// @b Example: `Cnk(49, 6) == 13983816`
 QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
 
@@ -813,7 +819,7 @@ QUVARDBS1C_API double Cnk(double n, double k) QUVARDBS1C_NOEXCEPT;
 /// of terms that grow by steps of 1 are added in closed form. A call takes longest for a fractional
 /// @p n near 1020: about a millisecond.
 ///
-/// @param from  truncated toward zero; outside the 32-bit range it counts as -2147483648
+/// @param from  truncated toward zero; outside the 32-bit range, or NaN, it counts as -2147483648
 /// @param to    the sum ends at the last whole number not above it, and at 2147483647 in any case
 /// @return      0 for an empty range or a NaN @p to; terms with k above @p n add nothing
 /// @b Example: `SumCnk(5, 2, 3) == 20`
@@ -834,9 +840,12 @@ QUVARDBS1C_API double SumCnk(double n, double from, double to) QUVARDBS1C_NOEXCE
 /// @b Example: `Mod(-7, 3) == 2`
 QUVARDBS1C_API int32_t Mod(int32_t a, int32_t b) QUVARDBS1C_NOEXCEPT;
 
-/// The floored remainder a - floor(a / b) * b, which the rounded quotient decides.
+/// The floored remainder a - floor(a / b) * b, which the rounded quotient decides: it may miss the
+/// range from 0 to @p b by up to two units in the last place of @p a.
 ///
-/// @return NaN if @p b is 0 or an argument is infinite
+/// @return NaN if @p b is 0 or an argument is infinite; an infinity of the sign opposite to @p a if
+///         the quotient, or its floor times @p b, is out of range; @p a if the quotient is so small
+///         that it is rounded to 0
 /// @b Example: `ModDbl(-7.5, 2) == 0.5`
 QUVARDBS1C_API double ModDbl(double a, double b) QUVARDBS1C_NOEXCEPT;
 
@@ -850,8 +859,8 @@ QUVARDBS1C_API int32_t LCD(int32_t a, int32_t b) QUVARDBS1C_NOEXCEPT;
 extern "C++" {
 /// The largest common divisor of two whole numbers held in doubles.
 ///
-/// Only the truncated values take part; but if @p a is a multiple of @p b as truncated, the result
-/// is the magnitude of @p b as it was: `LCD2(6, 2.5)` is 2.5, `LCD2(7, 2.5)` is 1.
+/// Only the truncated values take part; but if that of @p a is a multiple of that of @p b, the
+/// result is the magnitude of @p b as it was: `LCD2(6, 2.5)` is 2.5, `LCD2(7, 2.5)` is 1.
 ///
 /// @return the magnitude of @p a if @p b is 0
 /// @b Example: `LCD2(12, 18) == 6`
@@ -862,9 +871,11 @@ QUVARDBS1C_API double LCD2(double a, double b) QUVARDBS1C_NOEXCEPT;
 /// The largest common divisor of two decimal numbers, for instance 0.25 of 0.5 and 0.75.
 ///
 /// Method: both are multiplied by the power of ten that makes them whole, and LCD2() of those is
-/// divided again. A number counts as whole if its fraction is not above 1e-12, or within 2^-48 of
-/// the number (the rounding of decimals and of their products). Made whole, a number within 2^-48
-/// of the nearest whole number (of two, the even one) is that number, any other is truncated.
+/// multiplied by pow(10, -places), which is rounded: `LCDDbl(1.2, 0.3)` is 0.30000000000000004. A
+/// number counts as whole if its fraction is not above 1e-12, or if it is off the nearest whole
+/// number (of two, the even one) by at most 2^-48 of itself (the rounding of decimals and of their
+/// products). Made whole, a number that is off by no more is that whole number, any other is
+/// truncated.
 ///
 /// @param a  times the power of ten, below 2147483648 in magnitude; beyond, the result is a divisor
 ///           of other numbers
@@ -882,7 +893,8 @@ QUVARDBS1C_API HostBool IsLong(double x) QUVARDBS1C_NOEXCEPT;
 /// @b Example: `IsLongP(2.75, 0.25) == -1`
 QUVARDBS1C_API HostBool IsLongP(double x, double tol) QUVARDBS1C_NOEXCEPT;
 
-/// Whether half of @p x lies less than 2^-52 above a whole number: one just below does not count.
+/// Whether half of @p x, as rounded, is whole or less than 2^-52 above a whole number. One just
+/// below does not count, but for the negative double closest to 0, whose half is rounded to 0.
 /// False for infinities and NaN.
 ///
 /// @b Example: `IsEven(-2.0) == -1`
@@ -910,9 +922,9 @@ QUVARDBS1C_API HostBool IsEvenLng(int32_t n) QUVARDBS1C_NOEXCEPT;
 
 /// @p v moved away from zero: a value that is not whole goes to the next whole number or, with @p
 /// half, to the next multiple of a half. The half point itself goes on to the whole number, and so
-/// does a fraction less than 1e-12 below it. The step is taken from the rounded abs(v) + 1, so the
-/// last double below a whole number goes on to the grid point after that. From 2147483647 in
-/// magnitude, @p half has no effect.
+/// does a fraction less than 1e-12 below it. The step is taken from abs(v) + 1 as rounded, so the
+/// last double below a power of two from 1 to 2^51 goes on to the grid point after that. From
+/// 2147483647 in magnitude, @p half has no effect.
 ///
 /// @return +0.0 for both zeros; NaN for an infinity or NaN
 /// @b Example: `Int05(2.1, -1) == 2.5`
@@ -921,8 +933,9 @@ QUVARDBS1C_API double Int05(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 /// @p v moved to the closest whole number or, with @p half, to the closest multiple of a half.
 ///
 /// Of two equally close whole numbers the one nearer to zero is taken, up to 15.5 (from 16.5 the
-/// one further away); so is it a few units in the last place beyond the tie. A quarter point, and a
-/// value less than 1e-12 beyond it, goes to the whole number.
+/// one further away). So it is for the first doubles beyond the tie: eight at 0.5, three at 1.5,
+/// one each at 2.5 and 3.5. With @p half, a quarter point, and a value less than 1e-12 beyond it,
+/// goes to the whole number.
 ///
 /// @return +0.0 for both zeros, -0.0 for a negative value that comes to nothing; NaN for an
 ///         infinity or NaN
@@ -930,8 +943,9 @@ QUVARDBS1C_API double Int05(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API double Int05c(double v, HostBool half) QUVARDBS1C_NOEXCEPT;
 
 /// @p v moved down or up the number line to a whole number or, with @p half, to a multiple of a
-/// half. A value on the grid stays. No tolerance. Upward from just below 0, where 1 + v rounds to
-/// 1, the result is 1.
+/// half. A value on the grid stays. No tolerance. Upward, the step to a whole number is taken from
+/// 1 + v as rounded: from -2^-54 to the last double below 0 the result is 1, and the last double
+/// below a power of two from 1 to 2^51 goes on to the whole number after that.
 ///
 /// @param lower  down if it is True, otherwise up
 /// @return       an infinity for itself; NaN for NaN
@@ -952,13 +966,13 @@ QUVARDBS1C_API double Int05LU(double v, HostBool half, HostBool lower) QUVARDBS1
 ///
 /// | Case                     | Result | x               | y                           |
 /// |--------------------------|--------|-----------------|-----------------------------|
-/// | x1 equal to x2           | -1     | written: x1     | written: mean of y1 and y2  |
+/// | x1 equal to x2           | -1     | written: x1     | written: (y1 + y2) * 0.5    |
 /// | forward                  | 0      | read            | written                     |
-/// | inverse, slope 0         | -1     | untouched       | untouched                   |
-/// | inverse, any other slope | 0      | written         | read                        |
+/// | inverse, a 0             | -1     | untouched       | untouched                   |
+/// | inverse, a not 0         | 0      | written         | read                        |
 ///
 /// Method: a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1), then b + a * x or (y -
-/// b) / a.
+/// b) / a. NaN is equal to nothing here, and is computed with.
 ///
 /// Accuracy: with abscissae, values and the asked one from -1 to 1, x1 and x2 at least 0.1 apart,
 /// absolute error at most 2.3e-14 forward; with y1 and y2 at least 0.1 apart, 3e-14 inverse (9e-15
@@ -980,11 +994,13 @@ QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2
 /// | inverse, a not 0        | 0      | lower root    | upper root    | read      |
 /// | inverse, y not reached  | 0      | extreme       | its negative  | read      |
 ///
-/// The extreme is 8.98846567431155e+307 / abs(a), which may be +infinity. So @p x lies above @p
-/// xSecond exactly if the value is not reached.
+/// The extreme is 8.98846567431155e+307 / abs(a), which may be +infinity. A value is taken as not
+/// reached if the discriminant b * b - 4 * a * (c - y) comes out below 0, which rounding decides
+/// for a value close to that of the vertex. Only then is @p x above @p xSecond.
 ///
 /// Method: c is worked out first, b from c, a from both. Points at 0, and points so near to 0 that
-/// a product vanishes, are passed over where another will do.
+/// a product vanishes, are passed over where another will do. NaN is equal to nothing here, and is
+/// computed with.
 ///
 /// Accuracy: with abscissae, values and the asked one from -1 to 1, abscissae at least 0.1 apart
 /// and 0.01 from 0, absolute error at most 1e-10 forward; with abs(a) at least 0.1 and a
