@@ -27,7 +27,8 @@ function(quvard_shared_library name)
   endforeach()
 
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:QUVARDCompileOptions>)
-  set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".dll")
+  set_target_properties(${name} PROPERTIES
+    PREFIX "" SUFFIX ".dll" DEBUG_POSTFIX "")
 
   if(APPLE)
     list(TRANSFORM symbols PREPEND "_")

@@ -5,6 +5,17 @@ root=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
 
 # The folder for all that is built.
 build=${QUVARDBS1C_BUILD_DIR:-$root/build}
+case $build in
+  /*) ;;
+  *) build=$PWD/$build ;;
+esac
+
+# Prints the comment at the top of the script, if its arguments ask for help.
+help_if_asked() {
+  [ "${1:-}" = --help ] || return 0
+  sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"
+  exit 0
+}
 
 jobs=$(getconf _NPROCESSORS_ONLN)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$jobs}"

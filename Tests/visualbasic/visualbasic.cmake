@@ -53,16 +53,16 @@ add_dependencies(VisualBasicPrograms
   VisualBasicReport VisualBasicCalls TranslatedCalls TranslatedReport)
 
 foreach(program VisualBasicReport TranslatedReport)
-  add_test(NAME ${program}.IsThatOfTheCppHost COMMAND "${CMAKE_COMMAND}"
+  add_test(NAME VisualBasic.${program}.IsThatOfTheCppHost COMMAND "${CMAKE_COMMAND}"
     "-DDOTNET=${QUVARDBS1C_DOTNET}" "-DPROGRAM=$<TARGET_FILE_DIR:QUVARDBS1C>/${program}.dll"
     "-DREPORT=$<TARGET_FILE:report>" "-DFOLDER=${outDir}/${program}"
     -P "${testDir}/SameReport.cmake")
-  set_tests_properties(${program}.IsThatOfTheCppHost PROPERTIES TIMEOUT 600)
+  set_tests_properties(VisualBasic.${program}.IsThatOfTheCppHost PROPERTIES TIMEOUT 600)
 endforeach()
 foreach(program VisualBasicCalls TranslatedCalls)
-  add_test(NAME ${program}.GiveTheResults
+  add_test(NAME VisualBasic.${program}.GiveTheResults
     COMMAND "${QUVARDBS1C_DOTNET}" "$<TARGET_FILE_DIR:QUVARDBS1C>/${program}.dll")
-  set_tests_properties(${program}.GiveTheResults PROPERTIES TIMEOUT 600)
+  set_tests_properties(VisualBasic.${program}.GiveTheResults PROPERTIES TIMEOUT 600)
 endforeach()
 add_test(NAME VisualBasic.TrapsDoNotCompile COMMAND "${CMAKE_COMMAND}"
   "-DBUILD=${PROJECT_BINARY_DIR}" "-DTRAPS=${testDir}/Traps.vb" -P "${testDir}/Traps.cmake")

@@ -4,7 +4,8 @@
 /// Three kinds of routine are declared here, grouped by topic:
 ///
 /// - **Wide routines** take and give `std::wstring` by value. Each works on its own copy; an
-///   argument that the caller moves in is not copied. C++ only.
+///   argument that the caller moves in is not copied. C++ only, with the C++ standard library that
+///   this library was built with.
 /// - **Host routines** take and give host strings (`BSTR`) and scalars: those named `VB_...`, the
 ///   five `ChrCount`, `StrFromTo`, `StrBetween`, `StrFromChrToChr`, `StrBetweenChrAndChr`, and
 ///   `Cpp_DecimalFormat`. C and C++.
@@ -46,6 +47,10 @@
 
 #ifdef __cplusplus
 #include <string>
+#if defined(_GLIBCXX_USE_CXX11_ABI) && !_GLIBCXX_USE_CXX11_ABI
+#error "QUVARDBS1C takes std::wstring of the usual ABI: build without _GLIBCXX_USE_CXX11_ABI=0"
+#endif
+static_assert(sizeof(wchar_t) == 4, "QUVARDBS1C takes wide units of 32 bits");
 /// A host string: one pointer to the first 16-bit unit of a zero-terminated run. Null is legal.
 typedef char16_t* BSTR;
 /// Marks a routine that does not throw, to C++.
