@@ -211,7 +211,7 @@ QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 /// the first unit out of the leftmost occurrence. With a @p chars of one unit, every such unit
 /// goes.
 ///
-/// One pass over @p s, in which each removal reads again at most the length of @p chars.
+/// One pass over @p s, in which each removal reads again at most twice the length of @p chars.
 ///
 /// @param chars  what to look for; empty: @p s comes back unchanged
 /// @throws std::bad_alloc

@@ -1,41 +1,65 @@
+#include <string_view>
 #include <utility>
 
+#include "host/Boundary.h"
 #include "host/HostBool.h"
-#include "host/HostFrame.h"
+#include "phrases/FirstLetter.h"
 #include "phrases/Languages.h"
-#include "strings/PlatformCase.h"
+#include "strings/WideForm.h"
 
-using quvard::callWide;
-using quvard::givenOut;
+using quvard::FirstMapped;
 using quvard::isSet;
 using quvard::kHostFalse;
 using quvard::kHostTrue;
 using quvard::LetterCase;
-using quvard::mapFirst;
+using quvard::viaBuffer;
 
-std::wstring LocalAN(std::wstring adjective, std::wstring noun, std::wstring language,
-                     HostBool upperAdjective, HostBool lowerResult, HostBool noBlank) {
+namespace {
+
+struct Phrase {
+  FirstMapped first;
+  std::wstring_view separator;
+  FirstMapped second;
+  bool isLowered;
+
+  std::size_t room() const { return first.room() + separator.size() + second.room(); }
+
+  wchar_t* write(wchar_t* out) const {
+    wchar_t* end = quvard::copyUnits(separator, first.write(out));
+    end = second.write(end);
+    if (isLowered) mapFirst({out, end}, LetterCase::lower);
+    return end;
+  }
+};
+
+Phrase composePhrase(std::wstring_view adjective, std::wstring_view noun,
+                     std::wstring_view language, HostBool upperAdjective, HostBool lowerResult,
+                     HostBool noBlank) {
   const quvard::Language* const row = quvard::findLanguage(language);
   if (row == nullptr) return {};
 
-  if (row->heedsUpperAdjective && isSet(upperAdjective)) mapFirst(adjective, LetterCase::upper);
-  if (row->lowersNoun) mapFirst(noun, LetterCase::lower);
-  if (row->nounFirst) adjective.swap(noun);
+  FirstMapped first{adjective, {}};
+  FirstMapped second{noun, {}};
+  if (row->heedsUpperAdjective && isSet(upperAdjective)) first.letterCase = LetterCase::upper;
+  if (row->lowersNoun) second.letterCase = LetterCase::lower;
+  if (row->nounFirst) std::swap(first, second);
+  const bool isJoined = row->heedsNoBlank && isSet(noBlank);
+  return {first, isJoined ? L"" : L" ", second, row->heedsLowerResult && isSet(lowerResult)};
+}
 
-  std::wstring& phrase = adjective;
-  phrase.reserve(adjective.size() + 1 + noun.size());
-  if (!(row->freeSeparator && isSet(noBlank))) phrase.push_back(L' ');
-  phrase.append(noun);
-  if (row->heedsLowerResult && isSet(lowerResult)) mapFirst(phrase, LetterCase::lower);
-  return std::move(phrase);
+}  // namespace
+
+std::wstring LocalAN(std::wstring adjective, std::wstring noun, std::wstring language,
+                     HostBool upperAdjective, HostBool lowerResult, HostBool noBlank) {
+  return quvard::toWstring(
+      composePhrase(adjective, noun, language, upperAdjective, lowerResult, noBlank));
 }
 
 BSTR VB_LocalAN(BSTR adjective, BSTR noun, BSTR language) {
-  return givenOut(callWide(LocalAN, adjective, noun, language, kHostTrue, kHostFalse, kHostFalse));
+  return viaBuffer(composePhrase, adjective, noun, language, kHostTrue, kHostFalse, kHostFalse);
 }
 
 BSTR VB_LocalAN2(BSTR adjective, BSTR noun, BSTR language, HostBool upperAdjective,
                  HostBool lowerResult, HostBool noBlank) {
-  return givenOut(
-      callWide(LocalAN, adjective, noun, language, upperAdjective, lowerResult, noBlank));
+  return viaBuffer(composePhrase, adjective, noun, language, upperAdjective, lowerResult, noBlank);
 }

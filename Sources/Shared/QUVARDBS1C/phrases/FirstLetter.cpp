@@ -1,30 +1,43 @@
+#include "phrases/FirstLetter.h"
+
+#include "host/Boundary.h"
 #include "host/HostBool.h"
-#include "host/HostFrame.h"
 #include "phrases/Languages.h"
-#include "strings/PlatformCase.h"
+#include "strings/WideForm.h"
 
-using quvard::callWide;
 using quvard::FirstLetter;
-using quvard::givenOut;
+using quvard::FirstMapped;
 using quvard::LetterCase;
-using quvard::mapFirst;
+using quvard::overwrite;
+using quvard::viaBuffer;
 
-std::wstring LowerFirst(std::wstring text, std::wstring language, HostBool forceDE) {
+namespace {
+
+FirstMapped lowerFirst(std::wstring_view text, std::wstring_view language, HostBool forceDE) {
   const quvard::Language* const row = quvard::findLanguage(language);
   const FirstLetter rule = row == nullptr ? FirstLetter::lowered : row->firstLetter;
-  const bool kept = rule == FirstLetter::kept ||
-                    (rule == FirstLetter::keptUnlessForced && !quvard::isSet(forceDE));
-  if (!kept) mapFirst(text, LetterCase::lower);
+  const bool stays = rule == FirstLetter::kept ||
+                     (rule == FirstLetter::keptUnlessForced && !quvard::isSet(forceDE));
+  if (stays) return {text, {}};
+  return {text, LetterCase::lower};
+}
+
+FirstMapped upperFirst(std::wstring_view text) { return {text, LetterCase::upper}; }
+
+}  // namespace
+
+std::wstring LowerFirst(std::wstring text, std::wstring language, HostBool forceDE) {
+  overwrite(text, lowerFirst(text, language, forceDE));
   return text;
 }
 
 std::wstring UpperFirst(std::wstring text) {
-  mapFirst(text, LetterCase::upper);
+  overwrite(text, upperFirst(text));
   return text;
 }
 
 BSTR VB_LowerFirst(BSTR text, BSTR language, HostBool forceDE) {
-  return givenOut(callWide(LowerFirst, text, language, forceDE));
+  return viaBuffer(lowerFirst, text, language, forceDE);
 }
 
-BSTR VB_UpperFirst(BSTR text) { return givenOut(callWide(UpperFirst, text)); }
+BSTR VB_UpperFirst(BSTR text) { return viaBuffer(upperFirst, text); }

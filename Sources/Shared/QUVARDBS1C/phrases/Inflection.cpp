@@ -1,8 +1,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "QUVARDBS1C.h"
-#include "QUVARDCR1C.h"
+#include "host/Boundary.h"
 
 namespace {
 

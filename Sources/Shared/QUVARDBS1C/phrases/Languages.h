@@ -14,7 +14,7 @@ enum class FirstLetter { lowered, keptUnlessForced, kept };
 struct Language {
   wchar_t code[3];
   bool nounFirst = false;
-  bool freeSeparator = false;  // noBlank makes it empty; otherwise it is always one blank
+  bool heedsNoBlank = false;  // which leaves out the blank between the words
   bool lowersNoun = false;
   bool heedsUpperAdjective = false;
   bool heedsLowerResult = false;
@@ -22,16 +22,16 @@ struct Language {
 };
 
 inline constexpr std::array<Language, 10> kLanguages{{
-    {.code = L"ES", .nounFirst = true, .freeSeparator = true, .heedsLowerResult = true},
-    {.code = L"FR", .nounFirst = true, .freeSeparator = true, .heedsLowerResult = true},
-    {.code = L"IT", .nounFirst = true, .freeSeparator = true, .heedsLowerResult = true},
-    {.code = L"PT", .nounFirst = true, .freeSeparator = true, .heedsLowerResult = true},
-    {.code = L"PL", .nounFirst = true, .freeSeparator = true, .heedsLowerResult = true},
+    {.code = L"ES", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
+    {.code = L"FR", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
+    {.code = L"IT", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
+    {.code = L"PT", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
+    {.code = L"PL", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
     {.code = L"US", .lowersNoun = true, .heedsUpperAdjective = true, .heedsLowerResult = true},
     {.code = L"DE", .heedsUpperAdjective = true, .firstLetter = FirstLetter::keptUnlessForced},
-    {.code = L"JP", .freeSeparator = true, .firstLetter = FirstLetter::kept},
-    {.code = L"CS", .freeSeparator = true},
-    {.code = L"CN", .freeSeparator = true},
+    {.code = L"JP", .heedsNoBlank = true, .firstLetter = FirstLetter::kept},
+    {.code = L"CS", .heedsNoBlank = true},
+    {.code = L"CN", .heedsNoBlank = true},
 }};
 
 // The row of a code, compared whole and with case; null for any other code.

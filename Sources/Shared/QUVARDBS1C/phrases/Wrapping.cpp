@@ -1,32 +1,27 @@
 #include <string_view>
-#include <utility>
 
-#include "host/HostFrame.h"
+#include "host/Boundary.h"
+#include "strings/WideForm.h"
 
-using quvard::callWide;
-using quvard::givenOut;
+using quvard::Joined;
+using quvard::viaBuffer;
 
 namespace {
 
-std::wstring enclosed(wchar_t opening, std::wstring_view text, wchar_t closing) {
-  std::wstring result;
-  result.reserve(text.size() + 2);
-  result.push_back(opening);
-  result.append(text);
-  result.push_back(closing);
-  return result;
-}
+Joined<3> inBlanks(std::wstring_view text) { return {L" ", text, L" "}; }
 
-std::wstring inBrackets(std::wstring_view text) { return enclosed(L'[', text, L']'); }
+Joined<3> inParentheses(std::wstring_view text) { return {L"(", text, L")"}; }
+
+Joined<3> inBrackets(std::wstring_view text) { return {L"[", text, L"]"}; }
 
 }  // namespace
 
-std::wstring SpStrSp(std::wstring text) { return enclosed(L' ', text, L' '); }
+std::wstring SpStrSp(std::wstring text) { return quvard::toWstring(inBlanks(text)); }
 
-std::wstring PStrP(std::wstring text) { return enclosed(L'(', text, L')'); }
+std::wstring PStrP(std::wstring text) { return quvard::toWstring(inParentheses(text)); }
 
-BSTR VB_SpStrSp(BSTR text) { return convertWstringToBSTR(SpStrSp(convertBSTRtoWstring(text))); }
+BSTR VB_SpStrSp(BSTR text) { return quvard::viaObject(SpStrSp, text); }
 
-BSTR VB_PStrP(BSTR text) { return givenOut(callWide(PStrP, text)); }
+BSTR VB_PStrP(BSTR text) { return viaBuffer(inParentheses, text); }
 
-BSTR VB_BStrB(BSTR text) { return givenOut(callWide(inBrackets, text)); }
+BSTR VB_BStrB(BSTR text) { return viaBuffer(inBrackets, text); }

@@ -2,6 +2,6 @@
 #include "strings/PlatformCase.h"
 
 std::wstring StrLCase(std::wstring s) {
-  for (wchar_t& unit : s) unit = quvard::caseMapped(unit, quvard::LetterCase::lower);
+  for (wchar_t& unit : s) unit = quvard::mapCase(unit, quvard::LetterCase::lower);
   return s;
 }

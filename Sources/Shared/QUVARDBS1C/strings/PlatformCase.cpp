@@ -10,11 +10,12 @@
 
 namespace quvard {
 
-wchar_t caseMapped(wchar_t unit, LetterCase letterCase) {
+wchar_t mapCase(wchar_t unit, LetterCase letterCase) {
   // The platform's functions are defined for characters alone.
   if (static_cast<std::uint32_t>(unit) > 0x10FFFF) return unit;
 #ifdef __APPLE__
-  // Its towlower stands in a header as an inline function over these two.
+  // towlower and towupper are inline functions of a header there, which call these two. To call
+  // them directly leaves no doubt about what the library imports.
   return letterCase == LetterCase::lower ? __tolower(unit) : __toupper(unit);
 #else
   const auto character = static_cast<std::wint_t>(unit);

@@ -1,14 +1,14 @@
 #include <algorithm>
 #include <bitset>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
+#include "host/Boundary.h"
 #include "host/HostBool.h"
-#include "host/HostFrame.h"
 #include "strings/PatternSearch.h"
-#include "strings/UnitBlocks.h"
 
-using quvard::callWide;
+using quvard::viaBuffer;
 
 namespace {
 
@@ -17,18 +17,16 @@ constexpr std::size_t kFewUnits = 8;
 
 class UnitSet {
  public:
-  explicit UnitSet(std::wstring_view units) {
-    for (const wchar_t unit : units) {
-      if (isNarrow(unit)) {
-        narrow_.set(static_cast<std::size_t>(unit));
-      } else {
-        beyond_.push_back(unit);
-      }
+  // Reorders the units, which outlive the set.
+  explicit UnitSet(std::span<wchar_t> units)
+      : beyond_(std::partition(units.begin(), units.end(), isNarrow), units.end()) {
+    for (const wchar_t unit : units.first(units.size() - beyond_.size())) {
+      narrow_.set(static_cast<std::size_t>(unit));
     }
     std::sort(beyond_.begin(), beyond_.end());
   }
 
-  bool holds(wchar_t unit) const {
+  bool contains(wchar_t unit) const {
     return isNarrow(unit) ? narrow_.test(static_cast<std::size_t>(unit))
                           : std::binary_search(beyond_.begin(), beyond_.end(), unit);
   }
@@ -37,45 +35,37 @@ class UnitSet {
   static bool isNarrow(wchar_t unit) { return static_cast<std::uint32_t>(unit) <= 0xFFFF; }
 
   std::bitset<0x10000> narrow_;
-  std::wstring beyond_;
+  std::span<wchar_t> beyond_;  // sorted
 };
 
-HostBool commonUnit(std::wstring_view text, std::wstring_view chars) {
-  bool found = false;
+// Reorders `chars`.
+HostBool haveCommonUnit(std::wstring_view text, std::span<wchar_t> chars) {
+  bool have = false;
   if (chars.size() <= kFewUnits) {
-    found = std::any_of(chars.begin(), chars.end(),
-                        [text](wchar_t unit) { return text.find(unit) != text.npos; });
+    have = std::any_of(chars.begin(), chars.end(),
+                       [text](wchar_t unit) { return text.find(unit) != text.npos; });
   } else {
     const UnitSet set(chars);
-    found = std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.holds(unit); });
+    have =
+        std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.contains(unit); });
   }
-  return quvard::hostBool(found);
+  return quvard::hostBool(have);
 }
 
-std::int32_t occurrences(std::wstring_view text, std::wstring_view pattern) {
-  if (pattern.empty()) return 0;
-  if (pattern.size() == 1) {
-    return static_cast<std::int32_t>(quvard::countOf(text, pattern.front()));
-  }
-  const quvard::PatternSearch<wchar_t> search(pattern);
-  std::int32_t count = 0;
-  for (std::size_t at = 0; (at = search.find(text, at)) != text.npos; at += pattern.size()) {
-    ++count;
-  }
-  return count;
+std::int32_t countOccurrences(std::wstring_view text, std::wstring_view pattern) {
+  return static_cast<std::int32_t>(quvard::PatternSearch<wchar_t>(pattern).count(text));
 }
 
 }  // namespace
 
-HostBool CommonChar(std::wstring text, std::wstring chars) { return commonUnit(text, chars); }
+HostBool CommonChar(std::wstring text, std::wstring chars) { return haveCommonUnit(text, chars); }
 
 std::int32_t cChrCount(std::wstring text, std::wstring pattern) {
-  return occurrences(text.c_str(), pattern.c_str());
+  return countOccurrences(text.c_str(), pattern.c_str());
 }
 
-HostBool VB_CommonChar(BSTR text, BSTR chars) { return callWide(commonUnit, text, chars); }
+HostBool VB_CommonChar(BSTR text, BSTR chars) { return viaBuffer(haveCommonUnit, text, chars); }
 
 std::int32_t ChrCount(BSTR text, BSTR pattern) {
-  if (text == nullptr || pattern == nullptr) return 0;
-  return callWide(occurrences, text, pattern);
+  return text == nullptr || pattern == nullptr ? 0 : viaBuffer(countOccurrences, text, pattern);
 }

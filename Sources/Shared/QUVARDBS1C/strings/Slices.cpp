@@ -1,40 +1,38 @@
 #include <cstdint>
 #include <string_view>
-#include <utility>
 
-#include "host/HostFrame.h"
+#include "host/Boundary.h"
 #include "strings/PatternSearch.h"
+#include "strings/WideForm.h"
 
-using quvard::callWide;
-using quvard::givenOut;
+using quvard::viaBuffer;
 
 namespace {
 
-// The units at the 1-based positions `first` to `last`, both within the text where any lie between.
-std::wstring slice(std::wstring text, std::int64_t first, std::int64_t last) {
+// The units at the 1-based positions `first` to `last`, both within the text where any are between.
+std::wstring_view slice(std::wstring_view text, std::int64_t first, std::int64_t last) {
   if (last < first) return {};
-  text.resize(static_cast<std::size_t>(last));
-  text.erase(0, static_cast<std::size_t>(first - 1));
-  return text;
+  return text.substr(static_cast<std::size_t>(first - 1),
+                     static_cast<std::size_t>(last - first + 1));
 }
 
 // A negative position counts as beyond every end.
-bool isWithin(const std::wstring& text, std::int32_t position) {
+bool isWithin(std::wstring_view text, std::int32_t position) {
   return static_cast<std::uint32_t>(position) <= text.size();
 }
 
-std::wstring fromTo(std::wstring text, std::int32_t from, std::int32_t to) {
+std::wstring_view fromTo(std::wstring_view text, std::int32_t from, std::int32_t to) {
   if (from < 1 || !isWithin(text, to)) return {};
-  return slice(std::move(text), from, to);
+  return slice(text, from, to);
 }
 
-std::wstring between(std::wstring text, std::int32_t from, std::int32_t to) {
+std::wstring_view between(std::wstring_view text, std::int32_t from, std::int32_t to) {
   if (from < 1 || !isWithin(text, to)) return {};
-  return slice(std::move(text), std::int64_t{from} + 1, std::int64_t{to} - 1);
+  return slice(text, std::int64_t{from} + 1, std::int64_t{to} - 1);
 }
 
 // Two delimiters of one unit each will do, and so will any two of which one is empty.
-bool areDelimiters(const std::wstring& opening, const std::wstring& closing) {
+bool areDelimiters(std::wstring_view opening, std::wstring_view closing) {
   return opening.empty() || closing.empty() || (opening.size() == 1 && closing.size() == 1);
 }
 
@@ -42,8 +40,8 @@ std::size_t find(std::wstring_view text, std::wstring_view delimiter) {
   return quvard::PatternSearch<wchar_t>(delimiter).find(text, 0);
 }
 
-std::wstring fromChrToChr(const std::wstring& text, const std::wstring& opening,
-                          const std::wstring& closing) {
+std::wstring_view fromChrToChr(std::wstring_view text, std::wstring_view opening,
+                               std::wstring_view closing) {
   if (!areDelimiters(opening, closing)) return {};
   const std::size_t first = find(text, opening);
   const std::size_t last = find(text, closing);
@@ -51,33 +49,36 @@ std::wstring fromChrToChr(const std::wstring& text, const std::wstring& opening,
   return text.substr(first, last - first + 1);
 }
 
-}  // namespace
-
-std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring opening, std::wstring closing) {
+std::wstring_view betweenChrAndChr(std::wstring_view text, std::wstring_view opening,
+                                   std::wstring_view closing) {
   if (!areDelimiters(opening, closing)) return {};
   const std::size_t opened = find(text, opening);
   if (opened == text.npos || opened == text.size()) return {};
-  const std::wstring_view rest = std::wstring_view(text).substr(opened + 1);
+  const std::wstring_view rest = text.substr(opened + 1);
   const std::size_t length = find(rest, closing);
-  return length == rest.npos ? std::wstring() : std::wstring(rest.substr(0, length));
+  if (length == rest.npos) return {};
+  return rest.substr(0, length);
+}
+
+}  // namespace
+
+std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring opening, std::wstring closing) {
+  quvard::cutTo(text, betweenChrAndChr(text, opening, closing));
+  return text;
 }
 
 BSTR StrFromTo(BSTR text, std::int32_t from, std::int32_t to) {
-  return givenOut(callWide(fromTo, text, from, to));
+  return viaBuffer(fromTo, text, from, to);
 }
 
 BSTR StrBetween(BSTR text, std::int32_t from, std::int32_t to) {
-  return givenOut(callWide(between, text, from, to));
+  return viaBuffer(between, text, from, to);
 }
 
 BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing) {
-  return givenOut(callWide(fromChrToChr, text, opening, closing));
+  return viaBuffer(fromChrToChr, text, opening, closing);
 }
 
 BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing) {
-  std::wstring whole = convertBSTRtoWstring(text);
-  std::wstring start = convertBSTRtoWstring(opening);
-  std::wstring end = convertBSTRtoWstring(closing);
-  return convertWstringToBSTR(
-      cStrBetweenChrAndChr(std::move(whole), std::move(start), std::move(end)));
+  return quvard::viaObject(cStrBetweenChrAndChr, text, opening, closing);
 }

@@ -1,40 +1,46 @@
 #include <algorithm>
+#include <string_view>
 
-#include "host/HostFrame.h"
+#include "host/Boundary.h"
+#include "strings/WideForm.h"
 
-using quvard::callWide;
-using quvard::givenOut;
+using quvard::cutTo;
+using quvard::viaBuffer;
 
 namespace {
 
 constexpr wchar_t kBlank = L' ';
 
-void trimLeft(std::wstring& s) { s.erase(0, std::min(s.find_first_not_of(kBlank), s.size())); }
+std::wstring_view trimLeft(std::wstring_view s) {
+  return s.substr(std::min(s.find_first_not_of(kBlank), s.size()));
+}
 
-// find_last_not_of gives npos for a string of blanks, and npos + 1 is 0.
-void trimRight(std::wstring& s) { s.resize(s.find_last_not_of(kBlank) + 1); }
+// find_last_not_of gives npos for a text of blanks, and npos + 1 is 0.
+std::wstring_view trimRight(std::wstring_view s) {
+  return s.substr(0, s.find_last_not_of(kBlank) + 1);
+}
+
+std::wstring_view trimBoth(std::wstring_view s) { return trimLeft(trimRight(s)); }
 
 }  // namespace
 
 std::wstring StrLTrim(std::wstring s) {
-  trimLeft(s);
+  cutTo(s, trimLeft(s));
   return s;
 }
 
 std::wstring StrRTrim(std::wstring s) {
-  trimRight(s);
+  cutTo(s, trimRight(s));
   return s;
 }
 
 std::wstring StrLRTrim(std::wstring s) {
-  // The right end first: what goes there need not be moved.
-  trimRight(s);
-  trimLeft(s);
+  cutTo(s, trimBoth(s));
   return s;
 }
 
-BSTR VB_StrLTrim(BSTR s) { return givenOut(callWide(StrLTrim, s)); }
+BSTR VB_StrLTrim(BSTR s) { return viaBuffer(trimLeft, s); }
 
-BSTR VB_StrRTrim(BSTR s) { return givenOut(callWide(StrRTrim, s)); }
+BSTR VB_StrRTrim(BSTR s) { return viaBuffer(trimRight, s); }
 
-BSTR VB_StrLRTrim(BSTR s) { return givenOut(callWide(StrLRTrim, s)); }
+BSTR VB_StrLRTrim(BSTR s) { return viaBuffer(trimBoth, s); }

@@ -1,20 +1,61 @@
-// Loops over units without a branch for each, which the compiler makes into a few wide operations.
+// Loops over whole blocks of units, without a branch for each unit.
 #ifndef QUVARDBS1C_STRINGS_UNITBLOCKS_H
 #define QUVARDBS1C_STRINGS_UNITBLOCKS_H
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace quvard {
 
-// Texts are looked through in blocks of this many units.
 inline constexpr std::size_t kBlockUnits = 16;
 
+// A block has a bit for each of its units, the lowest for the first: whether it equals `sought`.
 template <typename Unit>
-bool holds(const Unit* block, std::size_t length, Unit sought) {
+std::uint32_t plainMatches(const Unit* block, Unit sought) {
+  std::uint32_t bits = 0;
+  for (std::size_t i = 0; i < kBlockUnits; ++i) bits |= (block[i] == sought ? 1U : 0U) << i;
+  return bits;
+}
+
+#ifdef __SSE2__
+
+// The same with the vector instructions that every 64-bit x86 has.
+inline __m128i vectorAt(const void* units) {
+  return _mm_loadu_si128(static_cast<const __m128i*>(units));
+}
+inline std::uint32_t matches(const char16_t* block, char16_t sought) {
+  const __m128i all = _mm_set1_epi16(static_cast<short>(sought));
+  return static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_packs_epi16(
+      _mm_cmpeq_epi16(vectorAt(block), all), _mm_cmpeq_epi16(vectorAt(block + 8), all))));
+}
+inline std::uint32_t matches(const wchar_t* block, wchar_t sought) {
+  const __m128i all = _mm_set1_epi32(sought);
+  const auto eight = [all](const wchar_t* units) {
+    return _mm_packs_epi32(_mm_cmpeq_epi32(vectorAt(units), all),
+                           _mm_cmpeq_epi32(vectorAt(units + 4), all));
+  };
+  return static_cast<std::uint32_t>(
+      _mm_movemask_epi8(_mm_packs_epi16(eight(block), eight(block + 8))));
+}
+
+#else
+
+template <typename Unit>
+std::uint32_t matches(const Unit* block, Unit sought) {
+  return plainMatches(block, sought);
+}
+
+#endif
+
+template <typename Unit>
+bool contains(const Unit* units, std::size_t length, Unit sought) {
   Unit found = 0;
-  for (std::size_t i = 0; i < length; ++i) found |= block[i] == sought ? 1 : 0;
+  for (std::size_t i = 0; i < length; ++i) found |= units[i] == sought ? 1 : 0;
   return found != 0;
 }
 
@@ -32,17 +73,6 @@ std::size_t countOf(std::basic_string_view<Unit> text, Unit sought) {
     count += static_cast<std::size_t>(ofStretch);
   }
   return count;
-}
-
-// Copies the units that are to stay, as wide units, and returns the end of the copy, which may lie
-// in the text itself.
-template <typename Unit, typename Keep>
-wchar_t* copyKept(std::basic_string_view<Unit> text, wchar_t* out, Keep keep) {
-  for (const Unit unit : text) {
-    *out = static_cast<wchar_t>(unit);
-    out += keep(unit) ? 1 : 0;
-  }
-  return out;
 }
 
 }  // namespace quvard

@@ -1,3 +1,0 @@
-#include "host/HostFrame.h"
-
-std::wstring convToWstring(BSTR handle) { return quvard::takenIn(handle); }
