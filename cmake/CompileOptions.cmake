@@ -8,7 +8,7 @@ target_compile_options(QUVARDCompileOptions INTERFACE
   # stays pow (clang for macOS would call a relative of it that rounds differently).
   -ffp-contract=off
   -fno-builtin-pow
-  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wmissing-declarations
   $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 
 # A shared library NAME.dll that exports the names in its lists and nothing else.

@@ -6,7 +6,8 @@ TEST(Search, CommonCharLikeEachUnitWithEachOther) {
   for (int i = 0; i < 20000; ++i) {
     const Text& units = i % 3 == 0 ? narrow : all;
     const Text text = randomText(units, 3), few = randomText(units, 3);
-    const Text chars = few + Text(i % 2 == 0 ? L"" : L"fcedghij\x20002\x20000\x20001") + few;
+    const Text more = L"fcedghij\x20002\x20000\x20001";
+    const Text chars = few + Text(i % 2 == 0 ? L"" : more) + Text(i % 5 == 0 ? 70 : 0, L'c') + few;
     const HostBool common = text.find_first_of(few) != text.npos ? -1 : 0;
     ASSERT_EQ(CommonChar(text, chars), common) << i;
     ASSERT_EQ(CommonChar(chars, text), common) << i;

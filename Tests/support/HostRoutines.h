@@ -29,6 +29,7 @@ struct HostRoutine {
   std::string name;
   std::size_t strings;                         // number of host strings it takes
   std::function<Text(Handles)> call;           // its result as text, released
+  std::function<void(Handles)> run;            // the same call, its result released at once
   std::function<Text(const Texts&)> expected;  // the same from wide text, null read as empty
   const Path* path = nullptr;
 };
@@ -36,6 +37,9 @@ struct HostRoutine {
 inline Text shown(BSTR result) { return taken(result); }
 inline Text shown(const Text& result) { return result; }
 inline Text shown(std::int32_t result) { return std::to_wstring(result); }
+
+inline void discard(BSTR result) { releaseBSTR(result); }
+inline void discard(std::int32_t) {}
 
 // A host routine that takes host strings and then these scalars, and what does the same with wide
 // text.
@@ -45,12 +49,13 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide
   constexpr std::size_t count = sizeof...(Parameters) - sizeof...(Scalars);
   const auto called = [=](auto routine, const auto& strings) {
     return [&]<std::size_t... i>(std::index_sequence<i...>) {
-      return shown(routine(strings[i]..., scalars...));
+      return routine(strings[i]..., scalars...);
     }
     (std::make_index_sequence<count>());
   };
-  return {name, count, [=](Handles s) { return called(host, s); },
-          [=](const Texts& t) { return called(wide, t); }};
+  return {name, count, [=](Handles s) { return shown(called(host, s)); },
+          [=](Handles s) { discard(called(host, s)); },
+          [=](const Texts& t) { return shown(called(wide, t)); }};
 }
 
 inline Text replacedStepwise(Text text, const Text& pattern, const Text& replacement) {

@@ -85,7 +85,7 @@ typedef int32_t HostBool;
 extern "C" {
 #endif
 
-/// @defgroup host The host boundary (host/HostFrame)
+/// @defgroup host The host boundary (host/Boundary)
 ///
 /// The way from a host string to wide text. How host strings are made and released is in
 /// QUVARDCR1C.h.
@@ -101,7 +101,7 @@ QUVARDBS1C_API std::wstring convToWstring(BSTR handle);
 #endif
 
 /// @}
-/// @defgroup substrings Substrings, joins, trims, lower case (strings/Substrings, Trims, LowerCase)
+/// @defgroup substrings Substrings, joins, trims, lower case (strings/Substrings, Joins, Trims, LowerCase)
 ///
 /// The ends of a text: taken, joined to others, freed of blanks; and all of it in lower case.
 /// @{
@@ -557,7 +557,7 @@ QUVARDBS1C_API std::wstring QUVARDHTMLProcessor(std::wstring text);
 QUVARDBS1C_API BSTR VB_QUVARDHTMLProcessor(BSTR text);
 
 /// @}
-/// @defgroup patterns Number patterns (formats/DecimalFormats, ValueFormats)
+/// @defgroup patterns Number patterns (formats/NumberPatterns)
 ///
 /// The patterns by which the host prints a number.
 ///

@@ -20,7 +20,7 @@ namespace {
 
 // A pattern of zeros, and what follows them.
 struct DecimalPattern {
-  std::int32_t decimals;
+  int32_t decimals;
   std::wstring_view exponentPart = {};
 
   std::size_t room() const {
@@ -37,11 +37,11 @@ struct DecimalPattern {
   }
 };
 
-constexpr std::int32_t kNoOverride = -1;
+constexpr int32_t kNoOverride = -1;
 
 // The digit before the point counts as one of the digits.
-DecimalPattern digitPattern(std::int32_t digits, std::int32_t digitsOverride) {
-  const std::int32_t count = digitsOverride == kNoOverride ? digits : digitsOverride;
+DecimalPattern digitPattern(int32_t digits, int32_t digitsOverride) {
+  const int32_t count = digitsOverride == kNoOverride ? digits : digitsOverride;
   return {std::max(count, 1) - 1};
 }
 
@@ -51,59 +51,65 @@ DecimalPattern digitPattern(std::int32_t digits, std::int32_t digitsOverride) {
 bool isNearWhole(double x) { return !(quvard::wholeDistance(x) > kWholeTolerance); }
 bool isJustOffWhole(double x) { return std::abs(TruncLng(x) - x) < kWholeTolerance; }
 
-std::wstring_view outputPattern(double value) {
+const wchar_t* outputPattern(double value) {
   if (isNearWhole(value * 1e19)) return isNearWhole(value) ? L"0" : L"0.###################";
   return isNearWhole(value) ? L"0E-#" : L"0.###################E-#";
 }
 
-const wchar_t* exponentPart(std::int32_t exponent, std::int32_t decimals) {
-  if (exponent < -std::int64_t{decimals}) return exponent <= -10 ? L"E-00" : L"E-0";
+// The decimal exponent truncated toward zero.
+int32_t exponentOf(double magnitude) { return TruncLng(std::log10(magnitude)); }
+
+const wchar_t* exponentPart(double magnitude, int32_t decimals) {
+  // Away from the powers of ten at which the part changes it is known without a logarithm.
+  if (decimals > 0) {
+    if (magnitude > 0.11 && magnitude < 99999) return L"";
+    if (magnitude > 100001 && magnitude < 9.9e9) return L"E+0";
+  }
+  const int32_t exponent = exponentOf(magnitude);
+  if (exponent < -int64_t{decimals}) return exponent <= -10 ? L"E-00" : L"E-0";
   if (exponent >= 5) return exponent >= 10 ? L"E+00" : L"E+0";
   return L"";
 }
 
-DecimalPattern optimalPattern(double value, std::int32_t decimals, HostBool useExponent,
+DecimalPattern optimalPattern(double value, int32_t decimals, HostBool useExponent,
                               HostBool keepDecimals) {
   const double magnitude = std::abs(value);
   const bool mayScale = isSet(useExponent) && magnitude > kWholeTolerance && !std::isinf(magnitude);
-  const std::int32_t exponent = mayScale ? TruncLng(std::log10(magnitude)) : 0;
-  const std::wstring_view scale = mayScale ? exponentPart(exponent, decimals) : L"";
+  const std::wstring_view scale = mayScale ? exponentPart(magnitude, decimals) : L"";
 
-  const bool isPlain = isJustOffWhole(value) ||
-                       (!scale.empty() && !isSet(keepDecimals) &&
-                        isJustOffWhole(std::pow(10.0, -static_cast<double>(exponent)) * value));
+  const bool isPlain =
+      isJustOffWhole(value) ||
+      (!scale.empty() && !isSet(keepDecimals) &&
+       isJustOffWhole(std::pow(10.0, -static_cast<double>(exponentOf(magnitude))) * value));
   return {isPlain ? 0 : decimals, scale};
 }
 
 }  // namespace
 
-std::wstring DecimalFormat(std::int32_t decimals) { return toWstring(DecimalPattern{decimals}); }
+std::wstring DecimalFormat(int32_t decimals) { return toWstring(DecimalPattern{decimals}); }
 
-void SetFormat(std::wstring* formats, std::int32_t count, std::int32_t digits,
-               std::int32_t digitsOverride) {
+void SetFormat(std::wstring* formats, int32_t count, int32_t digits, int32_t digitsOverride) {
   if (count < 1) return;
   std::fill_n(formats, count, toWstring(digitPattern(digits, digitsOverride)));
 }
 
-std::wstring OutputFormat(double value) { return std::wstring(outputPattern(value)); }
+std::wstring OutputFormat(double value) { return outputPattern(value); }
 
-std::wstring OptimalFormat(double value, std::int32_t decimals, HostBool useExponent,
+std::wstring OptimalFormat(double value, int32_t decimals, HostBool useExponent,
                            HostBool keepDecimals) {
   return toWstring(optimalPattern(value, decimals, useExponent, keepDecimals));
 }
 
-BSTR Cpp_DecimalFormat(std::int32_t decimals) { return giveOut(DecimalPattern{decimals}); }
+BSTR Cpp_DecimalFormat(int32_t decimals) { return giveOut(DecimalPattern{decimals}); }
 
-void VB_SetFormat(BSTR* formats, std::int32_t count, std::int32_t digits,
-                  std::int32_t digitsOverride) {
+void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits, int32_t digitsOverride) {
   if (count < 1) return;
   const quvard::TextBuffer pattern(digitPattern(digits, digitsOverride));
   std::generate_n(formats, count, [&pattern] { return SysAllocString2(pattern.c_str()); });
 }
 
-BSTR VB_OutputFormat(double value) { return giveOut(outputPattern(value)); }
+BSTR VB_OutputFormat(double value) { return SysAllocString2(outputPattern(value)); }
 
-BSTR VB_OptimalFormat(double value, std::int32_t decimals, HostBool useExponent,
-                      HostBool keepDecimals) {
+BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool useExponent, HostBool keepDecimals) {
   return giveOut(optimalPattern(value, decimals, useExponent, keepDecimals));
 }

@@ -29,23 +29,6 @@ inline wchar_t* copyUnits(std::u16string_view units, wchar_t* out) {
   return std::copy(units.begin(), units.end(), out);
 }
 
-// Some texts, one after the other.
-template <std::size_t count>
-struct Joined {
-  std::wstring_view texts[count];
-
-  std::size_t room() const {
-    std::size_t units = 0;
-    for (const std::wstring_view text : texts) units += text.size();
-    return units;
-  }
-
-  wchar_t* write(wchar_t* out) const {
-    for (const std::wstring_view text : texts) out = copyUnits(text, out);
-    return out;
-  }
-};
-
 }  // namespace quvard
 
 #endif

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "host/Boundary.h"
@@ -7,15 +9,15 @@
 namespace {
 
 struct MarkupToken {
-  std::wstring_view token;
+  wchar_t units[4];
   wchar_t character;
 };
 
 // Each token begins with the only `<` in it, so no two of them overlap.
 constexpr MarkupToken kMarkupTokens[] = {
-    {.token = L"<BR>", .character = L'\n'},
-    {.token = L"<QM>", .character = L'"'},
-    {.token = L"<CM>", .character = L','},
+    {.units = {L'<', L'B', L'R', L'>'}, .character = L'\n'},
+    {.units = {L'<', L'Q', L'M', L'>'}, .character = L'"'},
+    {.units = {L'<', L'C', L'M', L'>'}, .character = L','},
 };
 
 // A text with the characters in the place of their tokens.
@@ -25,16 +27,16 @@ struct Unmarked {
   std::size_t room() const { return text.size(); }
 
   wchar_t* write(wchar_t* out) const {
-    const quvard::PatternSearch<wchar_t> search(L"<");
     std::size_t from = 0;
-    for (std::size_t at = 0; (at = search.find(text, at)) != text.npos; ++at) {
-      for (const auto& [token, character] : kMarkupTokens) {
-        if (text.substr(at, token.size()) != token) continue;
+    quvard::PatternSearch<wchar_t>(L"<").forEach(text, [&](std::size_t at) {
+      for (const auto& [units, character] : kMarkupTokens) {
+        if (text.size() - at < std::size(units)) return;
+        if (!std::equal(std::begin(units), std::end(units), text.begin() + at)) continue;
         out = quvard::copyUnits(text.substr(from, at - from), out);
         *out++ = character;
-        from = at + token.size();
+        from = at + std::size(units);
       }
-    }
+    });
     return quvard::copyUnits(text.substr(from), out);
   }
 };

@@ -3,22 +3,37 @@
 #include "host/Boundary.h"
 #include "strings/WideForm.h"
 
-using quvard::Joined;
+using quvard::toWstring;
 using quvard::viaBuffer;
 
 namespace {
 
-Joined<3> inBlanks(std::wstring_view text) { return {L" ", text, L" "}; }
+struct Wrapped {
+  wchar_t opening;
+  std::wstring_view text;
+  wchar_t closing;
 
-Joined<3> inParentheses(std::wstring_view text) { return {L"(", text, L")"}; }
+  std::size_t room() const { return text.size() + 2; }
 
-Joined<3> inBrackets(std::wstring_view text) { return {L"[", text, L"]"}; }
+  wchar_t* write(wchar_t* out) const {
+    *out++ = opening;
+    out = quvard::copyUnits(text, out);
+    *out++ = closing;
+    return out;
+  }
+};
+
+Wrapped inBlanks(std::wstring_view text) { return {L' ', text, L' '}; }
+
+Wrapped inParentheses(std::wstring_view text) { return {L'(', text, L')'}; }
+
+Wrapped inBrackets(std::wstring_view text) { return {L'[', text, L']'}; }
 
 }  // namespace
 
-std::wstring SpStrSp(std::wstring text) { return quvard::toWstring(inBlanks(text)); }
+std::wstring SpStrSp(std::wstring text) { return toWstring(inBlanks(text)); }
 
-std::wstring PStrP(std::wstring text) { return quvard::toWstring(inParentheses(text)); }
+std::wstring PStrP(std::wstring text) { return toWstring(inParentheses(text)); }
 
 BSTR VB_SpStrSp(BSTR text) { return quvard::viaObject(SpStrSp, text); }
 

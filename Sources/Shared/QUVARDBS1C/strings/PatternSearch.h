@@ -1,5 +1,5 @@
 // Search for one pattern in texts, in time linear in the text whatever text and pattern hold, and
-// without memory of its own.
+// without memory from the heap.
 #ifndef QUVARDBS1C_STRINGS_PATTERNSEARCH_H
 #define QUVARDBS1C_STRINGS_PATTERNSEARCH_H
 
@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "strings/UnitBlocks.h"
@@ -24,26 +25,28 @@ class TwoWaySearch {
   using View = std::basic_string_view<Unit>;
 
   explicit TwoWaySearch(View pattern) : pattern_(pattern) {
-    // Of the two greatest suffixes, by the order of units and by its reverse, the shorter one cuts
-    // the pattern where its period shows on either side.
+    // The cut is before the shorter of the two greatest suffixes, in the order of the units and in
+    // the reverse order. So cut, no repetition around the cut is shorter than the period.
     const Suffix rising = greatestSuffix(std::less<Unit>());
     const Suffix falling = greatestSuffix(std::greater<Unit>());
     const Suffix& shorter = rising.start > falling.start ? rising : falling;
     cut_ = shorter.start;
     period_ = shorter.period;
-    const bool repeats = period_ + cut_ <= pattern.size() &&
-                         pattern.substr(0, cut_) == pattern.substr(period_, cut_);
-    if (repeats) {
+    const bool isPeriodic = cut_ + period_ <= pattern.size() &&
+                            pattern.substr(0, cut_) == pattern.substr(period_, cut_);
+    if (isPeriodic) {
       overlap_ = pattern.size() - period_;
     } else {
       period_ = std::max(cut_, pattern.size() - cut_) + 1;
     }
   }
 
-  std::size_t find(View text, std::size_t from) const {
+  template <typename TextUnit>
+  std::size_t find(std::basic_string_view<TextUnit> text, std::size_t from) const {
     const std::size_t size = pattern_.size();
-    std::size_t known = 0;  // so many units at the start of the pattern match already
-    for (std::size_t at = from; text.size() >= size && at <= text.size() - size;) {
+    if (text.size() < size) return View::npos;
+    std::size_t known = 0;  // number of units at the start of the pattern that match already
+    for (std::size_t at = from; at <= text.size() - size;) {
       std::size_t i = std::max(cut_, known);
       while (i < size && pattern_[i] == text[at + i]) ++i;
       if (i < size) {
@@ -68,92 +71,119 @@ class TwoWaySearch {
 
   template <typename Less>
   Suffix greatestSuffix(Less less) const {
-    Suffix suffix{0, 1};
-    std::size_t other = 1;  // start of the suffix that is compared with it
+    Suffix greatest{0, 1};
+    std::size_t other = 1;  // start of the suffix that is compared with the greatest so far
     for (std::size_t length = 0; other + length < pattern_.size();) {
-      const Unit ofSuffix = pattern_[suffix.start + length];
+      const Unit ofGreatest = pattern_[greatest.start + length];
       const Unit ofOther = pattern_[other + length];
-      if (less(ofOther, ofSuffix)) {
+      if (less(ofOther, ofGreatest)) {
         other += length + 1;
         length = 0;
-        suffix.period = other - suffix.start;
-      } else if (less(ofSuffix, ofOther)) {
-        suffix = {other, 1};
+        greatest.period = other - greatest.start;
+      } else if (less(ofGreatest, ofOther)) {
+        greatest = {other, 1};
         ++other;
         length = 0;
-      } else if (++length == suffix.period) {
+      } else if (++length == greatest.period) {
         other += length;
         length = 0;
       }
     }
-    return suffix;
+    return greatest;
   }
 
   View pattern_;
   std::size_t cut_ = 0;
   std::size_t period_ = 1;
-  std::size_t overlap_ = 0;  // of two occurrences one period apart, if the whole pattern has it
+  std::size_t overlap_ = 0;  // of two occurrences a period apart, if the whole pattern is periodic
 };
 
+// The units of the texts may be wider than those of the pattern.
 template <typename Unit>
 class PatternSearch {
  public:
   using View = std::basic_string_view<Unit>;
 
-  // A pattern up to this length wastes at most its few units at each position of a text.
-  static constexpr std::size_t kShort = 16;
-
-  // The pattern outlives the search. An empty one is found everywhere.
-  explicit PatternSearch(View pattern)
-      : pattern_(pattern), long_(pattern.size() > kShort ? pattern : View()) {}
-
-  // The position of the first occurrence at or after `from`, or View::npos.
-  std::size_t find(View text, std::size_t from) const {
-    if (pattern_.size() > kShort) return long_.find(text, from);
-    if (pattern_.empty()) return from;
-    if (text.size() < pattern_.size()) return View::npos;
-    const std::size_t starts = text.size() - pattern_.size() + 1;  // where one may begin
-    if (starts < kBlockUnits) return findStepwise(text, from, starts);
-    for (std::size_t at = from; at < starts; at += kBlockUnits) {
-      // The last block begins earlier, to end with the text.
-      const std::size_t block = std::min(at, starts - kBlockUnits);
-      std::uint32_t candidates =
-          matches(text.data() + block, pattern_.front()) &
-          matches(text.data() + block + pattern_.size() - 1, pattern_.back());
-      candidates &= ~0U << (at - block);
-      for (; candidates != 0; candidates &= candidates - 1) {
-        const std::size_t found = block + static_cast<std::size_t>(std::countr_zero(candidates));
-        if (isAt(text, found)) return found;
-      }
-    }
-    return View::npos;
+  // The pattern outlives the search.
+  explicit PatternSearch(View pattern) : pattern_(pattern) {
+    if (pattern.size() > kShort) long_.emplace(pattern);
   }
 
-  // The number of occurrences from left to right, without overlap.
-  std::size_t count(View text) const {
+  // The position of the first occurrence, or npos. An empty pattern is found at once.
+  template <typename TextUnit>
+  std::size_t find(std::basic_string_view<TextUnit> text) const {
     if (pattern_.empty()) return 0;
-    if (pattern_.size() == 1) return countOf(text, pattern_.front());
+    std::size_t found = View::npos;
+    search(text, [&found](std::size_t at) {
+      found = at;
+      return false;
+    });
+    return found;
+  }
+
+  // Calls `visit` with the position of each occurrence, from left to right and without overlap. An
+  // empty pattern has none.
+  template <typename TextUnit, typename Visit>
+  void forEach(std::basic_string_view<TextUnit> text, Visit visit) const {
+    if (pattern_.empty()) return;
+    search(text, [&visit](std::size_t at) {
+      visit(at);
+      return true;
+    });
+  }
+
+  template <typename TextUnit>
+  std::size_t count(std::basic_string_view<TextUnit> text) const {
+    if (pattern_.size() == 1) return countOf<TextUnit>(text, pattern_.front());
     std::size_t count = 0;
-    for (std::size_t at = 0; (at = find(text, at)) != View::npos; at += pattern_.size()) ++count;
+    forEach(text, [&count](std::size_t) { ++count; });
     return count;
   }
 
  private:
-  std::size_t findStepwise(View text, std::size_t from, std::size_t starts) const {
-    for (std::size_t at = from; at < starts; ++at) {
-      if (text[at] == pattern_.front() && isAt(text, at)) return at;
+  // A pattern up to this length wastes at most its few units at each position of a text.
+  static constexpr std::size_t kShort = 16;
+
+  // Goes on as long as `visit` returns true.
+  template <typename TextUnit, typename Visit>
+  void search(std::basic_string_view<TextUnit> text, Visit visit) const {
+    std::size_t from = 0;
+    if (long_) {
+      for (; (from = long_->find(text, from)) != View::npos && visit(from);) {
+        from += pattern_.size();
+      }
+      return;
     }
-    return View::npos;
+    if (text.size() < pattern_.size()) return;
+    const std::size_t last = pattern_.size() - 1;
+    const std::size_t starts = text.size() - last;  // where an occurrence may begin
+    for (std::size_t stretch = 0; stretch < starts; stretch += kMatchedUnits) {
+      // Where the first and the last unit of the pattern match, the others are compared.
+      const std::size_t length = std::min(starts - stretch, kMatchedUnits);
+      uint64_t candidates = matches<TextUnit>(text.substr(stretch, length), pattern_.front());
+      if (last > 0) {
+        candidates &= matches<TextUnit>(text.substr(stretch + last, length), pattern_.back());
+      }
+      for (; candidates != 0; candidates &= candidates - 1) {
+        const std::size_t at = stretch + static_cast<std::size_t>(std::countr_zero(candidates));
+        if (at < from || !isAt(text, at)) continue;
+        if (!visit(at)) return;
+        from = at + pattern_.size();
+      }
+    }
   }
 
-  bool isAt(View text, std::size_t at) const {
-    std::size_t i = 1;
-    while (i < pattern_.size() && text[at + i] == pattern_[i]) ++i;
-    return i == pattern_.size();
+  // Whether an occurrence is where its first and its last unit are.
+  template <typename TextUnit>
+  bool isAt(std::basic_string_view<TextUnit> text, std::size_t at) const {
+    for (std::size_t i = 1; i + 1 < pattern_.size(); ++i) {
+      if (text[at + i] != pattern_[i]) return false;
+    }
+    return true;
   }
 
   View pattern_;
-  TwoWaySearch<Unit> long_;
+  std::optional<TwoWaySearch<Unit>> long_;
 };
 
 }  // namespace quvard

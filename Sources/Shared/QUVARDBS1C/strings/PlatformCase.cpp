@@ -12,7 +12,7 @@ namespace quvard {
 
 wchar_t mapCase(wchar_t unit, LetterCase letterCase) {
   // The platform's functions are defined for characters alone.
-  if (static_cast<std::uint32_t>(unit) > 0x10FFFF) return unit;
+  if (static_cast<uint32_t>(unit) > 0x10FFFF) return unit;
 #ifdef __APPLE__
   // towlower and towupper are inline functions of a header there, which call these two. To call
   // them directly leaves no doubt about what the library imports.

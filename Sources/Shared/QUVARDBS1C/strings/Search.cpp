@@ -12,13 +12,27 @@ using quvard::viaBuffer;
 
 namespace {
 
-// Up to this many units are looked for one by one; more of them go into a set.
-constexpr std::size_t kFewUnits = 8;
+// The units of a short text. Its low bytes rule out most units of another text at once.
+class FewUnits {
+ public:
+  explicit FewUnits(std::wstring_view units) : units_(units) {
+    for (const wchar_t unit : units) lowBytes_[unit & 0xFF] = true;
+  }
 
-class UnitSet {
+  bool contains(wchar_t unit) const {
+    return lowBytes_[unit & 0xFF] && units_.find(unit) != units_.npos;
+  }
+
+ private:
+  std::wstring_view units_;
+  bool lowBytes_[0x100] = {};
+};
+
+// The units of a text of any length.
+class ManyUnits {
  public:
   // Reorders the units, which outlive the set.
-  explicit UnitSet(std::span<wchar_t> units)
+  explicit ManyUnits(std::span<wchar_t> units)
       : beyond_(std::partition(units.begin(), units.end(), isNarrow), units.end()) {
     for (const wchar_t unit : units.first(units.size() - beyond_.size())) {
       narrow_.set(static_cast<std::size_t>(unit));
@@ -32,40 +46,44 @@ class UnitSet {
   }
 
  private:
-  static bool isNarrow(wchar_t unit) { return static_cast<std::uint32_t>(unit) <= 0xFFFF; }
+  static bool isNarrow(wchar_t unit) { return static_cast<uint32_t>(unit) <= 0xFFFF; }
 
   std::bitset<0x10000> narrow_;
   std::span<wchar_t> beyond_;  // sorted
 };
 
-// Reorders `chars`.
-HostBool haveCommonUnit(std::wstring_view text, std::span<wchar_t> chars) {
-  bool have = false;
-  if (chars.size() <= kFewUnits) {
-    have = std::any_of(chars.begin(), chars.end(),
-                       [text](wchar_t unit) { return text.find(unit) != text.npos; });
-  } else {
-    const UnitSet set(chars);
-    have =
-        std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.contains(unit); });
-  }
-  return quvard::hostBool(have);
+template <typename Set>
+bool containsAny(const Set& set, std::wstring_view text) {
+  return std::any_of(text.begin(), text.end(), [&set](wchar_t unit) { return set.contains(unit); });
 }
 
-std::int32_t countOccurrences(std::wstring_view text, std::wstring_view pattern) {
-  return static_cast<std::int32_t>(quvard::PatternSearch<wchar_t>(pattern).count(text));
+bool containsAnyOf(std::wstring_view text, std::wstring_view units) {
+  return std::any_of(units.begin(), units.end(),
+                     [text](wchar_t unit) { return text.find(unit) != text.npos; });
+}
+
+// May reorder `chars`.
+HostBool haveCommonUnit(std::wstring_view text, std::span<wchar_t> chars) {
+  const std::wstring_view units(chars.data(), chars.size());
+  if (units.size() <= 8) return quvard::hostBool(containsAnyOf(text, units));
+  if (units.size() <= 64) return quvard::hostBool(containsAny(FewUnits(units), text));
+  return quvard::hostBool(containsAny(ManyUnits(chars), text));
+}
+
+int32_t countOccurrences(std::wstring_view text, std::wstring_view pattern) {
+  return static_cast<int32_t>(quvard::PatternSearch<wchar_t>(pattern).count(text));
 }
 
 }  // namespace
 
 HostBool CommonChar(std::wstring text, std::wstring chars) { return haveCommonUnit(text, chars); }
 
-std::int32_t cChrCount(std::wstring text, std::wstring pattern) {
+int32_t cChrCount(std::wstring text, std::wstring pattern) {
   return countOccurrences(text.c_str(), pattern.c_str());
 }
 
 HostBool VB_CommonChar(BSTR text, BSTR chars) { return viaBuffer(haveCommonUnit, text, chars); }
 
-std::int32_t ChrCount(BSTR text, BSTR pattern) {
+int32_t ChrCount(BSTR text, BSTR pattern) {
   return text == nullptr || pattern == nullptr ? 0 : viaBuffer(countOccurrences, text, pattern);
 }

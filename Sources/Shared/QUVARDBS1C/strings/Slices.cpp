@@ -10,25 +10,25 @@ using quvard::viaBuffer;
 namespace {
 
 // The units at the 1-based positions `first` to `last`, both within the text where any are between.
-std::wstring_view slice(std::wstring_view text, std::int64_t first, std::int64_t last) {
+std::wstring_view slice(std::wstring_view text, int64_t first, int64_t last) {
   if (last < first) return {};
   return text.substr(static_cast<std::size_t>(first - 1),
                      static_cast<std::size_t>(last - first + 1));
 }
 
 // A negative position counts as beyond every end.
-bool isWithin(std::wstring_view text, std::int32_t position) {
-  return static_cast<std::uint32_t>(position) <= text.size();
+bool isWithin(std::wstring_view text, int32_t position) {
+  return static_cast<uint32_t>(position) <= text.size();
 }
 
-std::wstring_view fromTo(std::wstring_view text, std::int32_t from, std::int32_t to) {
+std::wstring_view fromTo(std::wstring_view text, int32_t from, int32_t to) {
   if (from < 1 || !isWithin(text, to)) return {};
   return slice(text, from, to);
 }
 
-std::wstring_view between(std::wstring_view text, std::int32_t from, std::int32_t to) {
+std::wstring_view between(std::wstring_view text, int32_t from, int32_t to) {
   if (from < 1 || !isWithin(text, to)) return {};
-  return slice(text, std::int64_t{from} + 1, std::int64_t{to} - 1);
+  return slice(text, int64_t{from} + 1, int64_t{to} - 1);
 }
 
 // Two delimiters of one unit each will do, and so will any two of which one is empty.
@@ -37,7 +37,7 @@ bool areDelimiters(std::wstring_view opening, std::wstring_view closing) {
 }
 
 std::size_t find(std::wstring_view text, std::wstring_view delimiter) {
-  return quvard::PatternSearch<wchar_t>(delimiter).find(text, 0);
+  return quvard::PatternSearch<wchar_t>(delimiter).find(text);
 }
 
 std::wstring_view fromChrToChr(std::wstring_view text, std::wstring_view opening,
@@ -67,13 +67,9 @@ std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring opening, std::
   return text;
 }
 
-BSTR StrFromTo(BSTR text, std::int32_t from, std::int32_t to) {
-  return viaBuffer(fromTo, text, from, to);
-}
+BSTR StrFromTo(BSTR text, int32_t from, int32_t to) { return viaBuffer(fromTo, text, from, to); }
 
-BSTR StrBetween(BSTR text, std::int32_t from, std::int32_t to) {
-  return viaBuffer(between, text, from, to);
-}
+BSTR StrBetween(BSTR text, int32_t from, int32_t to) { return viaBuffer(between, text, from, to); }
 
 BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing) {
   return viaBuffer(fromChrToChr, text, opening, closing);

@@ -10,30 +10,28 @@ using quvard::viaBuffer;
 namespace {
 
 // A negative count is widened with its sign and read as unsigned, and so is above every length.
-std::size_t countWithin(std::wstring_view s, std::int32_t n) {
+std::size_t countWithin(std::wstring_view s, int32_t n) {
   return std::min(static_cast<std::size_t>(n), s.size());
 }
 
-std::wstring_view leftOf(std::wstring_view s, std::int32_t n) {
-  return s.substr(0, countWithin(s, n));
-}
+std::wstring_view leftOf(std::wstring_view s, int32_t n) { return s.substr(0, countWithin(s, n)); }
 
-std::wstring_view rightOf(std::wstring_view s, std::int32_t n) {
+std::wstring_view rightOf(std::wstring_view s, int32_t n) {
   return s.substr(s.size() - countWithin(s, n));
 }
 
 }  // namespace
 
-std::wstring StrLeft(std::wstring s, std::int32_t n) {
+std::wstring StrLeft(std::wstring s, int32_t n) {
   cutTo(s, leftOf(s, n));
   return s;
 }
 
-std::wstring StrRight(std::wstring s, std::int32_t n) {
+std::wstring StrRight(std::wstring s, int32_t n) {
   cutTo(s, rightOf(s, n));
   return s;
 }
 
-BSTR VB_StrLeft(BSTR s, std::int32_t n) { return viaBuffer(leftOf, s, n); }
+BSTR VB_StrLeft(BSTR s, int32_t n) { return viaBuffer(leftOf, s, n); }
 
-BSTR VB_StrRight(BSTR s, std::int32_t n) { return viaBuffer(rightOf, s, n); }
+BSTR VB_StrRight(BSTR s, int32_t n) { return viaBuffer(rightOf, s, n); }

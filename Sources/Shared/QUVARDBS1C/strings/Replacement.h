@@ -1,0 +1,65 @@
+#ifndef QUVARDBS1C_STRINGS_REPLACEMENT_H
+#define QUVARDBS1C_STRINGS_REPLACEMENT_H
+
+#include <cstddef>
+#include <string_view>
+
+#include "host/Draft.h"
+#include "strings/PatternSearch.h"
+
+namespace quvard {
+
+// A text with every occurrence of a pattern replaced. The units of the text may be wider than those
+// of the pattern and the replacement.
+template <typename TextUnit, typename Unit>
+class Replaced {
+ public:
+  using Text = std::basic_string_view<TextUnit>;
+  using View = std::basic_string_view<Unit>;
+
+  Replaced(Text text, View pattern, View replacement)
+      : text_(text),
+        pattern_(pattern == replacement ? View() : pattern),
+        replacement_(replacement),
+        search_(pattern_) {}
+
+  bool mayGrow() const { return replacement_.size() > pattern_.size(); }
+
+  std::size_t room() const {
+    if (!mayGrow()) return text_.size();
+    return text_.size() + search_.count(text_) * (replacement_.size() - pattern_.size());
+  }
+
+  // May write over the text unless it may grow.
+  wchar_t* write(wchar_t* out) const {
+    const bool isOver = static_cast<const void*>(out) == text_.data();
+    std::size_t from = 0;
+    search_.forEach(text_, [&](std::size_t at) {
+      out = isOver ? copyUnits(text_.substr(from, at - from), out) : copyGap(from, at, out);
+      for (const Unit unit : replacement_) *out++ = static_cast<wchar_t>(unit);
+      from = at + pattern_.size();
+    });
+    return copyUnits(text_.substr(from), out);
+  }
+
+ private:
+  // Copies what is between two occurrences. Most gaps are short, and a whole block is copied sooner
+  // than so many units. The units too many are written over later: the room is enough, for the
+  // result has no fewer units to come than the text.
+  wchar_t* copyGap(std::size_t from, std::size_t to, wchar_t* out) const {
+    if (to - from > kBlockUnits || text_.size() - from < kBlockUnits) {
+      return copyUnits(text_.substr(from, to - from), out);
+    }
+    for (std::size_t i = 0; i < kBlockUnits; ++i) out[i] = static_cast<wchar_t>(text_[from + i]);
+    return out + (to - from);
+  }
+
+  Text text_;
+  View pattern_;
+  View replacement_;
+  PatternSearch<Unit> search_;
+};
+
+}  // namespace quvard
+
+#endif
