@@ -4,8 +4,9 @@ add_library(QUVARDCompileOptions INTERFACE)
 target_compile_features(QUVARDCompileOptions INTERFACE cxx_std_20)
 target_compile_options(QUVARDCompileOptions INTERFACE
   -fvisibility=hidden
-  # The order of evaluation is part of what the numerics promise: no fused multiply-add, and pow
-  # stays pow (clang for macOS would call a relative of it that rounds differently).
+  # The numerics promise every bit of their results. A fused multiply-add rounds once where a product
+  # and a sum round twice. And where pow has 10 for its base, clang for macOS calls __exp10 instead,
+  # which rounds differently, unless it is told that pow is a function like any other.
   -ffp-contract=off
   -fno-builtin-pow
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wmissing-declarations

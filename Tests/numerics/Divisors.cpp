@@ -51,14 +51,14 @@ TEST(Divisors, AsStepwise) {
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
     const int32_t whole = arguments.integer();
     const double edge = arguments.edge(), small = arguments.between(-9.0, 9.0);
-    expectSame(LCD, stepwiseLCD, whole, arguments.integer());
-    expectSame(LCD2, stepwiseLCD2, arguments.between(-3e9, 3e9), edge);
-    expectSame(LCDDbl, stepwiseLCDDbl, arguments.between(0.0, 1e-9), 1.0);
-    expectSame(LCDDbl, stepwiseLCDDbl, arguments.between(-1e15, 1e16), whole / 1e3);
+    expectSame("LCD", LCD, stepwiseLCD, whole, arguments.integer());
+    expectSame("LCD2", LCD2, stepwiseLCD2, arguments.between(-3e9, 3e9), edge);
+    expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, arguments.between(0.0, 1e-9), 1.0);
+    expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, arguments.between(-1e15, 1e16), whole / 1e3);
     const double other = i % 2 == 0 ? arguments.edge() : arguments.between(-9.0, 9.0);
     for (const double x : {edge, small}) {
-      expectSame(LCD2, stepwiseLCD2, x, other);
-      expectSame(LCDDbl, stepwiseLCDDbl, x, other);
+      expectSame("LCD2", LCD2, stepwiseLCD2, x, other);
+      expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, x, other);
     }
   }
 }

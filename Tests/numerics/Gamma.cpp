@@ -26,9 +26,9 @@ TEST(Gamma, GammaLn) {
              {0.0, kInf}, {-6.5, kInf}, {below(-6.5), -kExtreme});
   Arguments arguments;
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
-    expectSame(GammaLn, stepwise, arguments.between(-7.0, 10.0));
-    expectSame(GammaLn, stepwise, arguments.between(0.0, 300.0));
-    expectSame(GammaLn, stepwise, arguments.edge());
+    expectSame("GammaLn", GammaLn, stepwise, arguments.between(-7.0, 10.0));
+    expectSame("GammaLn", GammaLn, stepwise, arguments.between(0.0, 300.0));
+    expectSame("GammaLn", GammaLn, stepwise, arguments.edge());
   }
 }
 

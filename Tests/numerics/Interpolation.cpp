@@ -63,9 +63,11 @@ Outcome stepwiseQuadratic(const Points& p, HostBool forward, double x, double y)
   return {0, (first * 0.5) / a, (0.5 * second) / a, y};
 }
 
+// Names what differs.
 testing::AssertionResult same(const Outcome& actual, const Outcome& expected) {
+  constexpr std::array kNames{"as status", "in x", "in xSecond", "in y"};
   for (std::size_t i = 0; i < actual.size(); ++i) {
-    if (auto result = sameBits(actual[i], expected[i]); !result) return result << "at " << i;
+    if (auto result = sameBits(actual[i], expected[i]); !result) return result << kNames[i];
   }
   return testing::AssertionSuccess();
 }
@@ -93,9 +95,9 @@ TEST(Interpolation, AsStepwise) {
     const double x = draw(), y = draw();
     const HostBool flag = arguments.flag();
     EXPECT_TRUE(same(linear(p, flag, x, y), stepwiseLinear(p, flag, x, y)))
-        << shown(p[0], p[1], p[3], p[4], x, y);
+        << "LinearInterpol of " << shown(p[0], p[1], p[3], p[4], x, y);
     EXPECT_TRUE(same(quadratic(p, flag, x, y), stepwiseQuadratic(p, flag, x, y)))
-        << shown(p[0], p[1], p[2], p[3], p[4], p[5], x, y);
+        << "QuadraticInterpol of " << shown(p[0], p[1], p[2], p[3], p[4], p[5], x, y);
   };
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
     expectAsStepwise([&] { return arguments.between(-9.0, 9.0); });

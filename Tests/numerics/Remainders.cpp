@@ -14,7 +14,7 @@ TEST(Remainders, Mod) {
   Arguments arguments;
   for (int i = 0; i < 50000 && !HasFailure(); ++i) {
     const int32_t a = arguments.integer();
-    expectSame(Mod, floored, a, arguments.integer());
+    expectSame("Mod", Mod, floored, a, arguments.integer());
   }
 }
 

@@ -54,8 +54,9 @@ void expectRows(const char* name, Result (*routine)(Parameters...),
   (expectRow(rows, std::index_sequence_for<Parameters...>()), ...);
 }
 
-void expectSame(auto routine, auto reference, auto... arguments) {
-  EXPECT_TRUE(sameBits(routine(arguments...), reference(arguments...))) << shown(arguments...);
+void expectSame(const char* name, auto routine, auto reference, auto... arguments) {
+  EXPECT_TRUE(sameBits(routine(arguments...), reference(arguments...)))
+      << name << " of " << shown(arguments...);
 }
 
 // Random arguments, the same in every run.

@@ -743,7 +743,7 @@ QUVARDBS1C_API double FSign(double a, double b) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API double LogExpAPlusExpB(double a, double b) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @defgroup exchanges Exchanges (numerics/Exchanges)
+/// @defgroup exchanges Exchanges (numerics/Swaps)
 ///
 /// Two variables exchange what they hold.
 ///
@@ -767,9 +767,9 @@ QUVARDBS1C_API void SwapDbl(double* a, double* b) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @defgroup combinatorics Gamma function and combinatorics (numerics/Gamma, Combinatorics)
+/// @defgroup gamma Gamma function (numerics/Gamma)
 ///
-/// The logarithm of the gamma function, factorials, binomial coefficients and their sums.
+/// Its logarithm: the function itself leaves the range of doubles beyond 171.
 /// @{
 
 /// The natural logarithm of the gamma function.
@@ -789,6 +789,12 @@ QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 ///           +infinity
 /// @b Example: `GammaLn(0.5) > 0.57236494292 && GammaLn(0.5) < 0.57236494293`
 QUVARDBS1C_API double GammaLn(double x) QUVARDBS1C_NOEXCEPT;
+
+/// @}
+/// @defgroup combinatorics Combinatorics (numerics/Factorials, BinomialCoefficients, BinomialSums)
+///
+/// Factorials, binomial coefficients and their sums.
+/// @{
 
 /// n factorial, in one table look-up.
 ///
@@ -916,7 +922,7 @@ QUVARDBS1C_API HostBool IsEven(double x) QUVARDBS1C_NOEXCEPT;
 QUVARDBS1C_API HostBool IsEvenLng(int32_t n) QUVARDBS1C_NOEXCEPT;
 
 /// @}
-/// @defgroup rounding Rounding to whole numbers and halves (numerics/HalfUnits)
+/// @defgroup rounding Rounding to whole numbers and halves (numerics/Rounding)
 ///
 /// A number moved to a grid of whole numbers or of halves.
 ///

@@ -4,20 +4,21 @@
 #ifndef QUVARDBS1C_NUMERICS_CONSTANTS_H
 #define QUVARDBS1C_NUMERICS_CONSTANTS_H
 
+#include <stdint.h>
+
 #include <bit>
-#include <cstdint>
 
 namespace quvard {
 
 // A decimal, which does not compile with other bits than those beside it.
-consteval double constant(double decimal, std::uint64_t bits) {
-  return std::bit_cast<std::uint64_t>(decimal) == bits ? decimal : throw "other bits";
+consteval double constant(double decimal, uint64_t bits) {
+  return std::bit_cast<uint64_t>(decimal) == bits ? decimal : throw "other bits";
 }
 
-// Given, or its negative, in place of an answer that is refused. Not the largest double.
+// The result, or its negative, where an argument is refused. Not the largest double.
 inline constexpr double ExtremeDbl = constant(1.79769313486231e+308, 0x7FEFFFFFFFFFFFE2);
 
-// How far from whole a number may be that still counts as whole.
+// How far off a whole number a number may be and still count as whole, and as even.
 inline constexpr double kWholeTolerance = constant(1e-12, 0x3D719799812DEA11);
 inline constexpr double kEvenTolerance = constant(2.220446049250313e-16, 0x3CB0000000000000);
 
@@ -28,7 +29,7 @@ inline constexpr double kHalfPi = constant(1.570796326794895, 0x3FF921FB54442D11
 inline constexpr double kExpLimit = constant(709.0, 0x4086280000000000);
 inline constexpr double kSeriesLimit = constant(1e-6, 0x3EB0C6F7A0B5ED8D);
 
-// Takes a value to its closest whole number, ties toward zero.
+// Added before the floor is taken, it takes a number to the closest whole one, ties toward zero.
 inline constexpr double kClosestOffset = constant(0.499999999999999, 0x3FDFFFFFFFFFFFEE);
 
 inline constexpr double kLogSqrtTwoPi = constant(0.9189385332046727, 0x3FED67F1C864BEB4);

@@ -4,6 +4,7 @@
 
 #include "QUVARDBS1C.h"
 #include "numerics/Constants.h"
+#include "numerics/StrictDoubles.h"
 #include "numerics/TruncLng.h"
 
 namespace {
@@ -27,7 +28,8 @@ uint32_t commonDivisor(uint32_t a, uint32_t b) {
   while (a != 0) {
     a >>= zeros;
     const int64_t difference = int64_t{b} - int64_t{a};
-    // Found before the branches that follow are, and alike for either sign.
+    // A number and its negative end in as many zeros. So they are counted here, while the
+    // processor also works out which of a and b is the smaller one, and not after that.
     zeros = std::countr_zero(static_cast<uint32_t>(difference));
     b = std::min(a, b);
     a = static_cast<uint32_t>(difference < 0 ? -difference : difference);
@@ -36,19 +38,21 @@ uint32_t commonDivisor(uint32_t a, uint32_t b) {
 }
 
 // Whole but for the rounding of a decimal and of up to 28 multiplications by 10, which together
-// stay below 29 * 2^-53 of t.
-bool isNearWhole(double t) { return std::fabs(t - std::nearbyint(t)) <= std::fabs(t) * 0x1p-48; }
+// are below 29 * 2^-53 of t.
+bool isWholeButForRounding(double t) {
+  return std::fabs(t - std::nearbyint(t)) <= std::fabs(t) * 0x1p-48;
+}
 
 double decimalPlaces(double t) {
   double places = 0.0;
-  while (std::fabs(t - std::trunc(t)) > quvard::kWholeTolerance && !isNearWhole(t)) {
+  while (std::fabs(t - std::trunc(t)) > quvard::kWholeTolerance && !isWholeButForRounding(t)) {
     places += 1.0;
     t *= 10.0;
   }
   return places;
 }
 
-double wholeNumber(double t) { return isNearWhole(t) ? std::nearbyint(t) : std::trunc(t); }
+double toWhole(double t) { return isWholeButForRounding(t) ? std::nearbyint(t) : std::trunc(t); }
 
 }  // namespace
 
@@ -66,5 +70,5 @@ double LCD2(double a, double b) noexcept {
 double LCDDbl(double a, double b) noexcept {
   const double places = std::max(decimalPlaces(a), decimalPlaces(b));
   const double scale = std::pow(10.0, places);
-  return std::pow(10.0, -places) * LCD2(wholeNumber(a * scale), wholeNumber(b * scale));
+  return std::pow(10.0, -places) * LCD2(toWhole(a * scale), toWhole(b * scale));
 }

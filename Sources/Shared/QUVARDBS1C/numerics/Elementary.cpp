@@ -2,11 +2,12 @@
 
 #include "QUVARDBS1C.h"
 #include "numerics/Constants.h"
-#include "numerics/GuardedRoot.h"
+#include "numerics/Sign.h"
+#include "numerics/StrictDoubles.h"
 
 double Pi(void) noexcept { return quvard::kPi; }
 
-double sqr(double x) noexcept { return quvard::guardedRoot(x); }
+double sqr(double x) noexcept { return 0.0 > x ? -quvard::ExtremeDbl : std::sqrt(x); }
 
 double Log10(double x) noexcept { return std::log10(x); }
 
@@ -14,7 +15,7 @@ double spow(double base, double exponent) noexcept { return std::pow(base, expon
 
 double expm1x(double x) noexcept {
   if (x > quvard::kExpLimit) return quvard::ExtremeDbl;
-  if (std::fabs(x) > quvard::kSeriesLimit) return std::exp(x) + (-1.0);
+  if (std::fabs(x) > quvard::kSeriesLimit) return std::exp(x) - 1.0;
   return 0.5 * x * x + x;
 }
 
@@ -22,14 +23,14 @@ double ASin(double x) noexcept {
   if (x == 0.0) return 0.0;
   if (x == -1.0) return -quvard::kHalfPi;
   if (x == 1.0) return quvard::kHalfPi;
-  return std::atan(x / quvard::guardedRoot((1.0 - x) * (x + 1.0)));
+  return std::atan(x / sqr((1.0 - x) * (x + 1.0)));
 }
 
 double Min(double a, double b) noexcept { return a < b ? a : b; }
 
 double Max(double a, double b) noexcept { return a > b ? a : b; }
 
-double FSgn(double x) noexcept { return x == 0.0 ? 0.0 : std::fabs(x) / x; }
+double FSgn(double x) noexcept { return quvard::sign(x); }
 
 double FSign(double a, double b) noexcept { return b < 0.0 ? -std::fabs(a) : std::fabs(a); }
 

@@ -2,6 +2,7 @@
 
 #include "QUVARDBS1C.h"
 #include "numerics/Constants.h"
+#include "numerics/StrictDoubles.h"
 
 double GammaLn(double x) noexcept {
   if (x == 1.0) return 0.0;

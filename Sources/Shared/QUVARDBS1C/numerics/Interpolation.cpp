@@ -1,6 +1,6 @@
 #include "QUVARDBS1C.h"
 #include "host/HostBool.h"
-#include "numerics/GuardedRoot.h"
+#include "numerics/StrictDoubles.h"
 
 namespace {
 
@@ -17,29 +17,32 @@ struct Parabola {
 
 bool isNumberOtherThanZero(double value) { return value < 0.0 || value > 0.0; }
 
-// The constant term. The determinant is i.x * (k.x - j.x) but for rounding, and so 0 for a point at
-// 0: the points are turned, up to twice, until it is not.
-double constantTerm(const Point& i, const Point& j, const Point& k, int turns = 2) {
-  const double determinant = (i.x + j.x) * k.x - (i.x + k.x) * j.x;
-  if (turns > 0 && !isNumberOtherThanZero(determinant)) return constantTerm(j, k, i, turns - 1);
-  const double factor = (1.0 / determinant) / ((j.x - i.x) * (k.x - i.x));
+// In exact arithmetic i.x * (k.x - j.x), and so 0 where the first point is at 0.
+double determinant(const Point& i, const Point& j, const Point& k) {
+  return (i.x + j.x) * k.x - (i.x + k.x) * j.x;
+}
+
+double constantTerm(const Point& i, const Point& j, const Point& k) {
+  const double factor = (1.0 / determinant(i, j, k)) / ((j.x - i.x) * (k.x - i.x));
   const double first = (j.x * j.x * i.y - i.x * i.x * j.y) * ((k.x - i.x) * k.x);
   const double second = (i.x * i.x * k.y - k.x * k.x * i.y) * ((j.x - i.x) * j.x);
   return (second + first) * factor;
 }
 
-// The linear term, from two points that are not at 0.
-double linearTerm(const Point& i, const Point& j, const Point& k, double c, int turns = 2) {
-  const double product = i.x * j.x;
-  if (turns > 0 && !isNumberOtherThanZero(product)) return linearTerm(j, k, i, c, turns - 1);
+double linearTerm(const Point& i, const Point& j, double c) {
   const double ii = i.x * i.x;
   const double jj = j.x * j.x;
-  return ((jj * i.y + (ii - jj) * c) - ii * j.y) / (product * (j.x - i.x));
+  return ((jj * i.y + (ii - jj) * c) - ii * j.y) / ((i.x * j.x) * (j.x - i.x));
 }
 
+// Each term is worked out from the first points, of those in turn, that give it a divisor.
 Parabola parabolaThrough(const Point& p1, const Point& p2, const Point& p3) {
-  const double c = constantTerm(p1, p2, p3);
-  const double b = linearTerm(p1, p2, p3, c);
+  const double c = isNumberOtherThanZero(determinant(p1, p2, p3))   ? constantTerm(p1, p2, p3)
+                   : isNumberOtherThanZero(determinant(p2, p3, p1)) ? constantTerm(p2, p3, p1)
+                                                                    : constantTerm(p3, p1, p2);
+  const double b = isNumberOtherThanZero(p1.x * p2.x)   ? linearTerm(p1, p2, c)
+                   : isNumberOtherThanZero(p2.x * p3.x) ? linearTerm(p2, p3, c)
+                                                        : linearTerm(p3, p1, c);
   const auto& [x, y] = p1.x * p1.x == 0.0 ? p2 : p1;
   return {((y - x * b) - c) / (x * x), b, c};
 }
@@ -77,9 +80,9 @@ int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2,
     *x = (*y - c) / b;
     return kComputed;
   }
-  // A value that the parabola never reaches gives a root of -ExtremeDbl here, and so the roots in
-  // the wrong order.
-  const double root = quvard::guardedRoot((c - *y) * (-4.0 * a) + b * b);
+  // For a value that the parabola never reaches, sqr gives its negative extreme, and so the two
+  // results come out in the wrong order.
+  const double root = sqr((c - *y) * (-4.0 * a) + b * b);
   const double minus = -b - root;
   const double plus = root - b;
   *x = ((a > 0.0 ? minus : plus) * 0.5) / a;

@@ -2,16 +2,17 @@
 #ifndef QUVARDBS1C_NUMERICS_TRUNCLNG_H
 #define QUVARDBS1C_NUMERICS_TRUNCLNG_H
 
-#include <cstdint>
+#include <stdint.h>
+
 #include <limits>
 
 namespace quvard {
 
 // x truncated toward zero; the lowest integer if that does not fit 32 bits, or x is NaN. The test
-// stands before the conversion because converting a value that does not fit is undefined.
-constexpr std::int32_t TruncLng(double x) {
-  return x > -2147483649.0 && x < 2147483648.0 ? static_cast<std::int32_t>(x)
-                                               : std::numeric_limits<std::int32_t>::min();
+// comes before the conversion because converting a value that does not fit is undefined.
+constexpr int32_t TruncLng(double x) {
+  return x > -2147483649.0 && x < 2147483648.0 ? static_cast<int32_t>(x)
+                                               : std::numeric_limits<int32_t>::min();
 }
 
 }  // namespace quvard

@@ -1,3 +1,4 @@
+// What all tests for whole numbers measure.
 #ifndef QUVARDBS1C_NUMERICS_WHOLEDISTANCE_H
 #define QUVARDBS1C_NUMERICS_WHOLEDISTANCE_H
 

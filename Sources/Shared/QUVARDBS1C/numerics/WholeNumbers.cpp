@@ -3,19 +3,18 @@
 #include "QUVARDBS1C.h"
 #include "host/HostBool.h"
 #include "numerics/Constants.h"
+#include "numerics/StrictDoubles.h"
 #include "numerics/WholeDistance.h"
-
-using quvard::hostBool;
 
 HostBool IsLong(double x) noexcept { return IsLongP(x, quvard::kWholeTolerance); }
 
 HostBool IsLongP(double x, double tol) noexcept {
-  return hostBool(!(quvard::wholeDistance(x) > tol));
+  return quvard::hostBool(!(quvard::wholeDistance(x) > tol));
 }
 
 HostBool IsEven(double x) noexcept {
   const double half = x * 0.5;
-  return hostBool(quvard::kEvenTolerance > std::fabs(std::floor(half) - half));
+  return quvard::hostBool(quvard::kEvenTolerance > std::fabs(std::floor(half) - half));
 }
 
-HostBool IsEvenLng(int32_t n) noexcept { return hostBool(n % 2 == 0); }
+HostBool IsEvenLng(int32_t n) noexcept { return quvard::hostBool(n % 2 == 0); }

@@ -3,32 +3,27 @@
 #include "QUVARDBS1C.h"
 #include "host/HostBool.h"
 #include "numerics/Constants.h"
+#include "numerics/Sign.h"
+#include "numerics/StrictDoubles.h"
 #include "numerics/TruncLng.h"
-
-namespace {
-
-// 1 or -1; 0 for a zero of either sign, NaN for an infinity.
-double signFactor(double v, double magnitude) { return v == 0.0 ? 0.0 : magnitude / v; }
-
-}  // namespace
 
 double Int05(double v, HostBool half) noexcept {
   const double m = std::fabs(v);
-  const double sign = signFactor(v, m);
+  const double sign = quvard::sign(v);
   if (std::floor(m) == m) return sign * m;
   const double next = std::floor(m + 1.0);
   if (!quvard::isSet(half)) return sign * next;
-  const double toHalf = (quvard::TruncLng(m + 1.0) - m) + (-0.5);
-  return sign * (quvard::kWholeTolerance > toHalf ? next : next + (-0.5));
+  const double toHalf = (quvard::TruncLng(m + 1.0) - m) - 0.5;
+  return sign * (toHalf < quvard::kWholeTolerance ? next : next - 0.5);
 }
 
 double Int05c(double v, HostBool half) noexcept {
   const double m = std::fabs(v);
-  const double sign = signFactor(v, m);
+  const double sign = quvard::sign(v);
   if (std::floor(m) == m) return sign * m;
   const double closest = std::floor(quvard::kClosestOffset + m);
   const double above = m - closest;
-  if (!quvard::isSet(half) || quvard::kWholeTolerance > -0.25 + std::fabs(above)) {
+  if (!quvard::isSet(half) || std::fabs(above) - 0.25 < quvard::kWholeTolerance) {
     return sign * closest;
   }
   return sign * (closest + std::copysign(0.5, above));

@@ -9,18 +9,20 @@ template <std::size_t... columns>
 void expectSideBySide(const double (&... rows)[columns]) {
   const auto expectRow = [](const double(&row)[9]) {
     const double v = row[0];
-    const double closest[] = {Int05(v, -1), Int05(v, 0), Int05c(v, -1), Int05c(v, 0)};
-    const double sides[] = {Int05LU(v, -1, -1), Int05LU(v, -1, 0), Int05LU(v, 0, -1),
-                            Int05LU(v, 0, 0)};
-    for (int i = 0; i < 4; ++i) {
-      EXPECT_TRUE(sameBits(closest[i], row[1 + i])) << v;
-      EXPECT_TRUE(sameBits(sides[i], row[5 + i])) << v;
+    const std::pair<const char*, double> results[] = {
+        {"Int05 with half", Int05(v, -1)},          {"Int05", Int05(v, 0)},
+        {"Int05c with half", Int05c(v, -1)},        {"Int05c", Int05c(v, 0)},
+        {"Int05LU down, half", Int05LU(v, -1, -1)}, {"Int05LU up, half", Int05LU(v, -1, 0)},
+        {"Int05LU down", Int05LU(v, 0, -1)},        {"Int05LU up", Int05LU(v, 0, 0)}};
+    const double* expected = row;
+    for (const auto& [name, result] : results) {
+      EXPECT_TRUE(sameBits(result, *++expected)) << name << " of " << shown(v);
     }
   };
   (expectRow(rows), ...);
 }
 
-TEST(HalfUnits, SideBySide) {
+TEST(Rounding, SideBySide) {
   expectSideBySide(
       {2.1, 2.5, 3, 2, 2, 2, 2.5, 2, 3}, {2.4, 2.5, 3, 2.5, 2, 2, 2.5, 2, 3},
       {2.6, 3, 3, 2.5, 3, 2.5, 3, 2, 3}, {-2.1, -2.5, -3, -2, -2, -2.5, -2, -3, -2},
@@ -44,7 +46,7 @@ TEST(HalfUnits, SideBySide) {
       {big + 0.5, big + 1, big + 1, big + 0.5, big + 1, big + 0.5, big + 0.5, big, big + 1});
 }
 
-TEST(HalfUnits, Flags) {
+TEST(Rounding, Flags) {
   Arguments arguments;
   for (int i = 0; i < 1000; ++i) {
     const HostBool flag = arguments.flag();

@@ -3,7 +3,7 @@
 
 namespace {
 
-TEST(Exchanges, EachTakesTheOthersValue) {
+TEST(Swaps, EachTakesTheOthersValue) {
   int32_t i = kLowest, j = 7;
   SwapLng(&i, &j);
   SwapLng(&i, &i);

@@ -1,0 +1,83 @@
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+
+#include "QUVARDBS1C.h"
+#include "numerics/StrictDoubles.h"
+#include "numerics/TruncLng.h"
+
+namespace {
+
+// A coefficient is worked out in passes, from r = 1 + q on: pass i takes r to ((q + i) * r) / i. Each
+// pass waits for the one before, mostly for its division.
+constexpr double runPasses(double r, double q, int32_t first, int32_t last) {
+  double i = first;
+  for (int32_t pass = first; pass <= last; ++pass, i += 1.0) r = ((q + i) * r) / i;
+  return r;
+}
+
+// For whole n up to 1023, r as it is after every 64th pass, so that a call runs 63 passes at
+// most: Cnk(1000, 500) takes a tenth of the time that it takes with all of them. Where the sum of q
+// and the number of passes is larger, a product is out of range.
+constexpr int32_t kStride = 64;
+constexpr int32_t kRows = 7;
+constexpr int32_t kHighestSum = 1023;
+
+// r after pass kStride * row, from q = kStride * row on: there are no more passes than q.
+template <int32_t row>
+constexpr auto kRow = [] {
+  constexpr int32_t last = kStride * row;
+  std::array<double, std::size_t{kHighestSum + 1 - 2 * last}> results{};
+  for (std::size_t at = 0; at < results.size(); ++at) {
+    const double q = static_cast<double>(at) + last;
+    if constexpr (row == 1) {
+      results[at] = runPasses(1.0 + q, q, 2, last);
+    } else {
+      results[at] = runPasses(kRow<row - 1>[at + kStride], q, last - kStride + 1, last);
+    }
+  }
+  return results;
+}();
+constexpr const double* kRowOf[kRows] = {kRow<1>.data(), kRow<2>.data(), kRow<3>.data(),
+                                         kRow<4>.data(), kRow<5>.data(), kRow<6>.data(),
+                                         kRow<7>.data()};
+
+// The largest e for which 2^e is not above r, for r from 1 on; 1024 for infinity.
+int32_t exponent(double r) { return static_cast<int32_t>(std::bit_cast<uint64_t>(r) >> 52) - 1023; }
+
+// r after pass m, which is kStride or more; q is finite and at least m.
+double runManyPasses(double q, int32_t m) {
+  double r = 1.0 + q;
+  int32_t done = 1;
+  if (q < kHighestSum && q == std::floor(q)) {
+    const auto whole = static_cast<int32_t>(q);
+    if (const int32_t row = std::min(m, kHighestSum - whole) / kStride; row > 0) {
+      done = row * kStride;
+      r = kRowOf[row - 1][whole - done];
+    }
+  }
+  // Since q is at least m, each pass multiplies r by 2 or more, but for rounding, for which one of
+  // these factors is left out. Where they alone take r out of range, the passes are not run.
+  for (; m - done > kStride; done += kStride) {
+    if (exponent(r) + (m - done - 1) >= std::numeric_limits<double>::max_exponent) {
+      return std::numeric_limits<double>::infinity();
+    }
+    r = runPasses(r, q, done + 1, done + kStride);
+  }
+  return runPasses(r, q, done + 1, m);
+}
+
+}  // namespace
+
+double Cnk(double n, double k) noexcept {
+  if (k >= n) return k > n ? 0.0 : 1.0;
+  if (k == 0.0) return 1.0;
+  int32_t m = quvard::TruncLng(n - k);
+  double q = k;
+  if (m > k) {
+    m = quvard::TruncLng(k);
+    q = n - m;
+  }
+  return m < kStride ? runPasses(1.0 + q, q, 2, m) : runManyPasses(q, m);
+}

@@ -1,0 +1,63 @@
+#include <chrono>
+
+#include "QUVARDBS1C.h"
+#include "support/Doubles.h"
+
+namespace {
+
+// The steps one by one, with every pass.
+double stepwise(double n, double k) {
+  if (k > n) return 0.0;
+  if (k == n || k == 0.0) return 1.0;
+  int32_t m = truncated(n - k);
+  double q = k;
+  if (m > k) {
+    m = truncated(k);
+    q = n - m;
+  }
+  double r = 1.0 + q;
+  for (int32_t i = 2; i <= m; ++i) r = ((q + i) * r) / i;
+  return r;
+}
+
+void expectCnk(double n, double k) { expectSame("Cnk", Cnk, stepwise, n, k); }
+
+TEST(BinomialCoefficients, WorkedValues) {
+  expectRows("Cnk", Cnk, {0, 0, 1}, {100, 50, 1.0089134454556422e+29},
+             {1020, 510, 2.8062677682996257e+305}, {2147483649.0, 2, 2.305843010287436e+18},
+             {2147483650.0, 2, 3}, {5.5, 2, 12.375}, {5, 4.5, 5.5}, {5, -kInf, 2147483654.0},
+             {1e11, 1e10, 1e10 + 1}, {5e9, -2147483648.5, 7147483649.0}, {3, kNaN, kNaN});
+}
+
+TEST(BinomialCoefficients, AsStepwise) {
+  for (int n = 0; n <= 1100; n += n < 130 ? 1 : 9) {
+    for (int k = 0; k <= n; k += n < 130 ? 1 : 7) expectCnk(n, k);
+  }
+  Arguments arguments;
+  for (int i = 0; i < 20000 && !HasFailure(); ++i) {
+    const double n = arguments.between(-20.0, 1200.0), k = arguments.between(-20.0, 40.0);
+    const double small = arguments.between(0.0, 140.0);
+    expectCnk(n, arguments.between(-20.0, n));
+    expectCnk(n, k);
+    expectCnk(n + k, n);
+    expectCnk(std::floor(n), std::floor(k));
+    expectCnk(std::floor(n * 2.5), arguments.integer(0, 700));
+    // Of two arguments one is whole, and then what the passes begin with may be whole too.
+    expectCnk(small, std::floor(arguments.between(0.0, small)));
+    expectCnk(std::floor(small), arguments.between(0.0, small));
+    expectCnk(arguments.between(0.0, 4e9), k);
+    // Every pass is run in the reference, so that edges are kept to its short runs.
+    const double a = arguments.edge(), b = arguments.edge(), passes = std::fabs(a - b);
+    if (!(passes > 1e4 && passes < 0x1p31)) expectCnk(a, b);
+  }
+}
+
+TEST(BinomialCoefficients, NoArgumentRunsLong) {
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(Cnk(4294967294.0, 2147483647.0), kInf);
+  EXPECT_EQ(Cnk(4294967294.5, 2147483647.25), kInf);
+  EXPECT_EQ(Cnk(0x1p53, 0x1p53 - 2147483646.0), kInf);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+}  // namespace

@@ -1,0 +1,61 @@
+#include <chrono>
+
+#include "QUVARDBS1C.h"
+#include "support/Doubles.h"
+
+namespace {
+
+// Term by term.
+double stepwise(double n, double from, double to) {
+  double sum = 0.0;
+  for (double i = truncated(from); i <= kHighest && to >= i; i += 1.0) sum += Cnk(n, i);
+  return sum;
+}
+
+TEST(BinomialSums, WorkedValues) {
+  expectRows("SumCnk", SumCnk, {5, 0, 5, 32}, {5, 2.7, 3.9, 20}, {5, kHighest, kInf, 0},
+             {1e300, kLowest, kInf, 4198660.0}, {0.3, kLowest, kInf, 2.3058430092123919e+18},
+             {kNaN, 2147483647.75, 2147483647.0, 2147483648.0},
+             {kInf, 2147483646.0, 1e10, 4294967295.0}, {-kInf, kLowest, kInf, 0},
+             {5, -1e10, -2147483648.0, -2147483647.0}, {5, kNaN, -2147483647.5, -2147483647.0},
+             {5, -1e10, -2147483649.0, 0}, {2000, 0, 2000, kInf});
+}
+
+TEST(BinomialSums, AsStepwise) {
+  Arguments arguments;
+  // Around the places where one kind of term ends and the next begins.
+  for (int i = 0; i < 3000 && !HasFailure(); ++i) {
+    const double n = i % 2 == 0 ? arguments.integer(-60, 60) : arguments.between(-60.0, 60.0);
+    const double far = n < 0 ? n : n + 0x1p31, from = arguments.between(-80.0, 80.0);
+    expectSame("SumCnk", SumCnk, stepwise, n, from, from + arguments.between(-2.0, 90.0));
+    expectSame("SumCnk", SumCnk, stepwise, far, from, from + 50.0);
+    expectSame("SumCnk", SumCnk, stepwise, n, -0x1p31 + std::fabs(from), -0x1p31 + 78.0 + n);
+    expectSame("SumCnk", SumCnk, stepwise, n - 0x1p31 + 48.0, kLowest, n - 0x1p31 + 58.0);
+    expectSame("SumCnk", SumCnk, stepwise, arguments.edge(), from, from + 40.0);
+  }
+  // Long runs, whose sums round to ever coarser multiples.
+  for (const double n :
+       {-1.0, 0.1, 1e-20, 1234567.890123, 2.0 / 3.0 + 1e9, 0x1p31 + 0x1p20 + 0.5, kInf, kNaN}) {
+    for (int i = 0; i < 2; ++i) {
+      const double from = arguments.between(-0x1p31, -1e6);
+      expectSame("SumCnk", SumCnk, stepwise, n, from, from + arguments.between(0.0, 3e6));
+    }
+    expectSame("SumCnk", SumCnk, stepwise, n, -1e6, n < 4e9 ? 40.0 : 1e6);
+  }
+  for (const double n : {5.0, 0.3}) {
+    expectSame("SumCnk", SumCnk, stepwise, n, kLowest, kLowest + 2e7);
+  }
+}
+
+TEST(BinomialSums, NoArgumentRunsLong) {
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(SumCnk(4294967294.0, 0, kInf), kInf);
+  EXPECT_EQ(SumCnk(-5, 0, kInf), 0.0);
+  EXPECT_GT(SumCnk(1020.5, 0, kInf), 1e307);
+  for (const double n : {0.3, 1e9 + 0.1, -1e9, 2147483647.75, 3e9, 1e300, kInf, kNaN}) {
+    EXPECT_NE(SumCnk(n, kLowest, kInf), 0.0) << n;
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+}  // namespace
