@@ -7,7 +7,9 @@ namespace {
 // A number that would be narrowed does not cross: VB_StrLeft(BSTR, double) would not compile.
 struct Core {
   template <typename... Texts>
-  int32_t operator()(const Texts&...) const;
+  int32_t operator()(const Texts&...) const {
+    return 0;
+  }
 };
 template <typename... Arguments>
 concept Crosses = requires(Arguments... arguments) {
