@@ -60,7 +60,7 @@ double runManyPasses(double q, int32_t m) {
   // Since q is at least m, each pass multiplies r by 2 or more, but for rounding, for which one of
   // these factors is left out. Where they alone take r out of range, the passes are not run.
   for (; m - done > kStride; done += kStride) {
-    if (exponent(r) + (m - done - 1) >= std::numeric_limits<double>::max_exponent) {
+    if (m - done - 1 >= std::numeric_limits<double>::max_exponent - exponent(r)) {
       return std::numeric_limits<double>::infinity();
     }
     r = runPasses(r, q, done + 1, done + kStride);
