@@ -17,7 +17,29 @@ constexpr double runPasses(double r, double q, int32_t first, int32_t last) {
   return r;
 }
 
-// For whole n up to 1023, r as it is after every 64th pass, so that a call runs 63 passes at
+// The coefficients of whole n below 128, for k up to n / 2, so that most calls run no passes:
+// Cnk(52, 5) takes half the time that it takes with passes, SumCnk(100, 0, 100) a tenth.
+constexpr int32_t kTableEnd = 128;
+
+// The row of n has n / 2 + 1 coefficients, so all rows before it have (n + 1)^2 / 4, rounded down.
+constexpr std::size_t tableIndex(int32_t n, int32_t k) {
+  const auto next = static_cast<std::size_t>(n) + 1;
+  return next * next / 4 + static_cast<std::size_t>(k);
+}
+
+// With the same q = n - k, the coefficient of n - 1 over k - 1 lacks the last pass alone.
+constexpr auto kTable = [] {
+  std::array<double, tableIndex(kTableEnd, 0)> table{};
+  for (int32_t n = 0; n < kTableEnd; ++n) {
+    table[tableIndex(n, 0)] = 1.0;
+    for (int32_t k = 1; k <= n / 2; ++k) {
+      table[tableIndex(n, k)] = runPasses(table[tableIndex(n - 1, k - 1)], n - k, k, k);
+    }
+  }
+  return table;
+}();
+
+// For larger whole n up to 1023, r as it is after every 64th pass, so that a call runs 63 passes at
 // most: Cnk(1000, 500) takes a tenth of the time that it takes with all of them. Where the sum of q
 // and the number of passes is larger, a product is out of range.
 constexpr int32_t kStride = 64;
@@ -78,6 +100,12 @@ double Cnk(double n, double k) noexcept {
   if (m > k) {
     m = quvard::TruncLng(k);
     q = n - m;
+  }
+  // A few passes take no longer than a look into the table.
+  if (m < 4) return runPasses(1.0 + q, q, 2, m);
+  if (q < kTableEnd - m) {
+    const auto whole = static_cast<int32_t>(q);
+    if (whole == q) return kTable[tableIndex(whole + m, m)];
   }
   return m < kStride ? runPasses(1.0 + q, q, 2, m) : runManyPasses(q, m);
 }
