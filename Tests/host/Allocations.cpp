@@ -52,8 +52,13 @@ void* operator new(std::size_t size) {
   return front + kFront;
 }
 
+// Those of arrays too: a sanitizer's do not come here by themselves.
+void* operator new[](std::size_t size) { return operator new(size); }
+
 void operator delete(void* memory) noexcept { release(memory); }
 void operator delete(void* memory, std::size_t) noexcept { release(memory); }
+void operator delete[](void* memory) noexcept { release(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
 
 TEST(Allocations, EachMayFail) {
   const B text(u"Some <BR> words: (that) have 12 units, too"), language(u"US");

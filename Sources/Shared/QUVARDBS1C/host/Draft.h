@@ -20,9 +20,10 @@ concept Draft = requires(const Text& text, wchar_t* out) {
 };
 
 // Copies units, 16-bit ones extended with zeros, and returns the end of the copy. Wide units may
-// overlap their copy.
+// overlap their copy. An empty view may have no units at all, which std::memmove does not take.
 inline wchar_t* copyUnits(std::wstring_view units, wchar_t* out) {
-  if (out != units.data()) std::memmove(out, units.data(), units.size() * sizeof(wchar_t));
+  if (!units.empty() && out != units.data())
+    std::memmove(out, units.data(), units.size() * sizeof(wchar_t));
   return out + units.size();
 }
 inline wchar_t* copyUnits(std::u16string_view units, wchar_t* out) {
