@@ -65,6 +65,9 @@ interface_needs=(
 libcxx_needs=(
   "c++/v1/string.h:libc++-dev libc++abi-dev:llvm"
 )
+valgrind_needs=(
+  valgrind:valgrind:
+)
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
   mpfr.h:libmpfr-dev:mpfr
