@@ -44,8 +44,10 @@ BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement) {
   }
   // One unit by one: in the caller's own units, and nothing is written but what changes.
   const char16_t unit = inserted.front();
-  quvard::PatternSearch<char16_t>(sought).forEach(searched,
-                                                  [=](std::size_t at) { text[at] = unit; });
+  if (sought.front() != unit) {
+    quvard::PatternSearch<char16_t>(sought).forEach(searched,
+                                                    [=](std::size_t at) { text[at] = unit; });
+  }
   return SysAllocString16(text);
 }
 
