@@ -2,18 +2,17 @@
 
 #include <thread>
 
-#include "support/HostStrings.h"
+#include "support/Expectations.h"
 
 TEST(Services, EveryUnitInAndOut) {
   const Text wide = allUnits();
-  const std::u16string all = narrowed(wide);
-  EXPECT_EQ(wcslen16(all.c_str()), 0xFFFFU);
-  BSTR handle = SysAllocString16(all.c_str());
-  EXPECT_EQ(CW162W32(handle), wide);
-  EXPECT_EQ(convertBSTRtoWstring(handle), wide);
-  EXPECT_EQ(taken(handle), wide);
-  EXPECT_EQ(taken(SysAllocString2(wide.c_str())), wide);
-  EXPECT_EQ(taken(convertWstringToBSTR(wide)), wide);
+  const auto convert = [](BSTR handle) { return convertBSTRtoWstring(handle); };
+  EXPECT_GIVES(wcslen16, 0xFFFF, wide);
+  EXPECT_GIVES(SysAllocString16, wide, wide);
+  EXPECT_GIVES(CW162W32, wide, wide);
+  EXPECT_GIVES(convert, wide, wide);
+  EXPECT_GIVES(SysAllocString2, wide, wide.c_str());
+  EXPECT_GIVES(convertWstringToBSTR, wide, wide);
 }
 
 TEST(Services, UnitsBeyond16BitsGoOut) {
@@ -23,8 +22,8 @@ TEST(Services, UnitsBeyond16BitsGoOut) {
         row(L"\x10FFFF", L"\xDBFF\xDFFF"), row(L"\x110000", L"\xFFFD"),
         row(L"\x7FFFFFFF", L"\xFFFD"), row(L"\x80000000", L"\xFFFD"), row(L"\xFFFFFFFF", L"\xFFFD"),
         row(L"x\x10001y\x110000z\xD83D\xFFFF", L"x\xD800\xDC01y\xFFFDz\xD83D\xFFFF")}) {
-    EXPECT_EQ(taken(SysAllocString2(wide)), units);
-    EXPECT_EQ(taken(convertWstringToBSTR(wide)), units);
+    EXPECT_GIVES(SysAllocString2, units, wide);
+    EXPECT_GIVES(convertWstringToBSTR, units, wide);
   }
 }
 
@@ -35,7 +34,8 @@ TEST(Services, TextEndsAtItsFirstZeroUnit) {
   EXPECT_EQ(taken(SysAllocString16(units)), L"ab");
   EXPECT_EQ(convertBSTRtoWstring(handle), L"ab");
   EXPECT_EQ(taken(convertWstringToBSTR(L"ab\0cd"s)), L"ab");
-  EXPECT_EQ(convertBSTRtoWstring(null) + taken(SysAllocString16(nullptr)), L"");
+  EXPECT_EQ(convertBSTRtoWstring(null), L"");
+  EXPECT_EQ(taken(SysAllocString16(nullptr)), L"");
 }
 
 TEST(Services, WideBufferIsReusedAndEachThreadHasItsOwn) {
@@ -51,7 +51,6 @@ TEST(Services, WideBufferIsReusedAndEachThreadHasItsOwn) {
 TEST(Services, WideBufferFitsTextsOfAnyLength) {
   // Lengths around the sizes at which the buffer grows and is given back, up and down.
   for (const std::size_t length : {255U, 256U, 4095U, 1U << 20, (1U << 20) - 1, 3U << 20, 9U}) {
-    const Text wide(length, L'x');
-    ASSERT_EQ(CW162W32(B(wide)), wide) << length;
+    ASSERT_GIVES(CW162W32, Text(length, L'x'), Text(length, L'x'));
   }
 }

@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "TestPaths.h"
-#include "support/HostStrings.h"
+#include "support/Expectations.h"
 
 using Cells = std::vector<std::string>;
 

@@ -72,7 +72,7 @@ TEST(Allocations, EachMayFail) {
       allocationsLeft = failing;
       try {
         EXPECT_EQ(routine.call(handles), expected);
-        EXPECT_GT(failing, 0) << "nothing was allocated";
+        EXPECT_TRUE(failing > 0 || routine.path == &kHandlesAlone) << "nothing was allocated";
         failed = false;
       } catch (const std::bad_alloc&) {
       }
@@ -84,7 +84,7 @@ TEST(Allocations, EachMayFail) {
 
 TEST(Allocations, NoneForTextsOfUpTo64Units) {
   for (const HostRoutine& routine : hostRoutines()) {
-    if (routine.path == &kObject) continue;  // its services make strings
+    if (routine.path == &kObject || routine.path == &kToWideText) continue;  // made of strings
     for (std::size_t size = 0; size <= 64; ++size) {
       Texts texts{L"", L",", L"US", L"<", L"", L"12"};
       while (texts[0].size() < size) texts[0].push_back(L"a,b:<BR> 7"[texts[0].size() % 10]);

@@ -1,6 +1,6 @@
 #include "host/Boundary.h"
 
-#include "support/HostStrings.h"
+#include "support/Expectations.h"
 
 namespace {
 
@@ -22,9 +22,8 @@ static_assert(!Crosses<BSTR, double> && !Crosses<BSTR, int64_t> && !Crosses<BSTR
 }  // namespace
 
 TEST(Boundary, EveryUnitPassesUnchanged) {
-  const B all(allUnits());
-  EXPECT_EQ(convToWstring(all), allUnits());
-  EXPECT_EQ(taken(VB_StrLeft(all, -1)), allUnits());
+  EXPECT_GIVES(convToWstring, allUnits(), allUnits());
+  EXPECT_GIVES(VB_StrLeft, allUnits(), allUnits(), -1);
 }
 
 TEST(Boundary, TextEndsAtItsFirstZeroUnit) {
@@ -37,10 +36,7 @@ TEST(Boundary, TextEndsAtItsFirstZeroUnit) {
 TEST(Boundary, TextsOfEveryLengthInPlaceAndOnTheHeap) {
   for (std::size_t size = 0; size < 300; ++size) {
     const Text text(size, L'x');
-    const B handle(text);
-    ASSERT_EQ(taken(VB_PStrP(handle)), L"(" + text + L")") << size;
-    ASSERT_EQ(taken(VB_StrConcat(handle, B(u"a"), handle, handle, B(u""), B(u"b"))),
-              text + L"a" + text + text + L"b")
-        << size;
+    ASSERT_GIVES(VB_PStrP, L"(" + text + L")", text);
+    ASSERT_GIVES(VB_StrConcat, text + L"a" + text + text + L"b", text, L"a", text, text, L"", L"b");
   }
 }

@@ -83,9 +83,7 @@ void check(const HostRoutine& routine, const Texts& texts) {
   calling = routine.name + " of texts of";
   for (const Text& text : texts) calling.append(" ").append(std::to_string(text.size()));
   const Text expected = routine.expected(texts);
-  // VB_Replace writes in its text if it replaces one unit by one, and only if any changes.
-  const bool inPlace = routine.name == "VB_Replace" && texts[1].size() == 1 &&
-                       texts[2].size() == 1 && expected != texts[0];
+  const bool inPlace = routine.worksInPlace(texts) && expected != texts[0];
   std::vector<BSTR> handles;
   for (const Text& text : texts) {
     const std::size_t i = handles.size();

@@ -6,28 +6,32 @@
 
 namespace {
 int strayCalls = 0;
-Text stray() { return std::to_wstring(++strayCalls); }
+Text stray(const char* name) {
+  std::printf("The library calls the host's %s.\n", name);
+  return std::to_wstring(++strayCalls);
+}
 }  // namespace
 
-Text convToWstring(BSTR) { return stray(); }
-Text StrLeft(Text, int32_t) { return stray(); }
-Text StrLRTrim(Text) { return stray(); }
-Text LocalAN(Text, Text, Text, HostBool, HostBool, HostBool) { return stray(); }
-Text cStrBetweenChrAndChr(Text, Text, Text) { return stray(); }
-Text QUVARDHTMLProcessor(Text) { return stray(); }
-Text Replace(Text, Text, Text) { return stray(); }
-Text Replace(Text, const wchar_t*, const wchar_t*) { return stray(); }
-HostBool CommonChar(Text, Text) { return ++strayCalls; }
-double sqr(double) noexcept { return ++strayCalls; }
-double Cnk(double, double) noexcept { return ++strayCalls; }
-Text DecimalFormat(int32_t) { return stray(); }
+Text convToWstring(BSTR) { return stray(__func__); }
+Text StrLeft(Text, int32_t) { return stray(__func__); }
+Text StrLRTrim(Text) { return stray(__func__); }
+Text LocalAN(Text, Text, Text, HostBool, HostBool, HostBool) { return stray(__func__); }
+Text cStrBetweenChrAndChr(Text, Text, Text) { return stray(__func__); }
+Text QUVARDHTMLProcessor(Text) { return stray(__func__); }
+Text Replace(Text, Text, Text) { return stray(__func__); }
+Text Replace(Text, const wchar_t*, const wchar_t*) { return stray(__func__); }
+HostBool CommonChar(Text, Text) { return stray(__func__), 1; }
+double sqr(double) noexcept { return stray(__func__), 1; }
+double Cnk(double, double) noexcept { return stray(__func__), 1; }
+Text DecimalFormat(int32_t) { return stray(__func__); }
 
 int main() {
   const B text(u" a<CM>7 "), language(u"US");
   const BSTR handles[] = {text, text, language, text, text, text};
-  for (const HostRoutine& routine : hostRoutines()) routine.call(handles);
+  for (const HostRoutine& routine : hostRoutines()) {
+    if (routine.path != &kToWideText) routine.call(handles);  // the host has its own
+  }
   ASin(0.6);
   SumCnk(4, 0, 4);
-  std::printf("%d stray calls\n", strayCalls);
   return strayCalls == 0 ? 0 : 1;
 }

@@ -1,4 +1,6 @@
 // The calls that the README shows, taken from its text when the tests are built.
+#include <gtest/gtest.h>
+
 #include "support/HostStrings.h"
 
 TEST(Readme, CallsGiveWhatItSays) {

@@ -1,7 +1,7 @@
 #include <chrono>
 
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include "support/Expectations.h"
+#include "support/Random.h"
 
 namespace {
 
@@ -33,21 +33,21 @@ TEST(BinomialCoefficients, AsStepwise) {
   for (int n = 0; n <= 1100; n += n < 130 ? 1 : 9) {
     for (int k = 0; k <= n; k += n < 130 ? 1 : 7) expectCnk(n, k);
   }
-  Arguments arguments;
+  Random random;
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
-    const double n = arguments.between(-20.0, 1200.0), k = arguments.between(-20.0, 40.0);
-    const double small = arguments.between(0.0, 140.0);
-    expectCnk(n, arguments.between(-20.0, n));
+    const double n = random.between(-20.0, 1200.0), k = random.between(-20.0, 40.0);
+    const double small = random.between(0.0, 140.0);
+    expectCnk(n, random.between(-20.0, n));
     expectCnk(n, k);
     expectCnk(n + k, n);
     expectCnk(std::floor(n), std::floor(k));
-    expectCnk(std::floor(n * 2.5), arguments.integer(0, 700));
+    expectCnk(std::floor(n * 2.5), static_cast<double>(random.below(701)));
     // Of two arguments one is whole, and then what the passes begin with may be whole too.
-    expectCnk(small, std::floor(arguments.between(0.0, small)));
-    expectCnk(std::floor(small), arguments.between(0.0, small));
-    expectCnk(arguments.between(0.0, 4e9), k);
+    expectCnk(small, std::floor(random.between(0.0, small)));
+    expectCnk(std::floor(small), random.between(0.0, small));
+    expectCnk(random.between(0.0, 4e9), k);
     // Every pass is run in the reference, so that edges are kept to its short runs.
-    const double a = arguments.edge(), b = arguments.edge(), passes = std::fabs(a - b);
+    const double a = random.edge(), b = random.edge(), passes = std::fabs(a - b);
     if (!(passes > 1e4 && passes < 0x1p31)) expectCnk(a, b);
   }
 }

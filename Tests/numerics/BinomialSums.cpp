@@ -1,7 +1,7 @@
 #include <chrono>
 
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include "support/Expectations.h"
+#include "support/Random.h"
 
 namespace {
 
@@ -22,23 +22,24 @@ TEST(BinomialSums, WorkedValues) {
 }
 
 TEST(BinomialSums, AsStepwise) {
-  Arguments arguments;
+  Random random;
   // Around the places where one kind of term ends and the next begins.
   for (int i = 0; i < 3000 && !HasFailure(); ++i) {
-    const double n = i % 2 == 0 ? arguments.integer(-60, 60) : arguments.between(-60.0, 60.0);
-    const double far = n < 0 ? n : n + 0x1p31, from = arguments.between(-80.0, 80.0);
-    expectSame("SumCnk", SumCnk, stepwise, n, from, from + arguments.between(-2.0, 90.0));
+    const double n =
+        i % 2 == 0 ? static_cast<double>(random.below(121)) - 60.0 : random.between(-60.0, 60.0);
+    const double far = n < 0 ? n : n + 0x1p31, from = random.between(-80.0, 80.0);
+    expectSame("SumCnk", SumCnk, stepwise, n, from, from + random.between(-2.0, 90.0));
     expectSame("SumCnk", SumCnk, stepwise, far, from, from + 50.0);
     expectSame("SumCnk", SumCnk, stepwise, n, -0x1p31 + std::fabs(from), -0x1p31 + 78.0 + n);
     expectSame("SumCnk", SumCnk, stepwise, n - 0x1p31 + 48.0, kLowest, n - 0x1p31 + 58.0);
-    expectSame("SumCnk", SumCnk, stepwise, arguments.edge(), from, from + 40.0);
+    expectSame("SumCnk", SumCnk, stepwise, random.edge(), from, from + 40.0);
   }
   // Long runs, whose sums round to ever coarser multiples.
   for (const double n :
        {-1.0, 0.1, 1e-20, 1234567.890123, 2.0 / 3.0 + 1e9, 0x1p31 + 0x1p20 + 0.5, kInf, kNaN}) {
     for (int i = 0; i < 2; ++i) {
-      const double from = arguments.between(-0x1p31, -1e6);
-      expectSame("SumCnk", SumCnk, stepwise, n, from, from + arguments.between(0.0, 3e6));
+      const double from = random.between(-0x1p31, -1e6);
+      expectSame("SumCnk", SumCnk, stepwise, n, from, from + random.between(0.0, 3e6));
     }
     expectSame("SumCnk", SumCnk, stepwise, n, -1e6, n < 4e9 ? 40.0 : 1e6);
   }

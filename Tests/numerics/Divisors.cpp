@@ -1,7 +1,7 @@
 #include <numeric>
 
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include "support/Random.h"
+#include "support/SmallScopes.h"
 
 namespace {
 
@@ -46,16 +46,21 @@ TEST(Divisors, WorkedValues) {
              {0.57, 1, 0.01}, {kInf, 2, 2}, {0x1p47 + 0.5, 3, 1}, {0, 0x1p51 + 1.5, 0x1p51 + 2});
 }
 
+TEST(Divisors, OfIntegersNearTheLimits) {
+  const auto integers = integersNear(40, {-65536, 65536});
+  forEach([](int32_t a, int32_t b) { expectSame("LCD", LCD, stepwiseLCD, a, b); }, integers,
+          integers);
+}
+
 TEST(Divisors, AsStepwise) {
-  Arguments arguments;
+  Random random;
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
-    const int32_t whole = arguments.integer();
-    const double edge = arguments.edge(), small = arguments.between(-9.0, 9.0);
-    expectSame("LCD", LCD, stepwiseLCD, whole, arguments.integer());
-    expectSame("LCD2", LCD2, stepwiseLCD2, arguments.between(-3e9, 3e9), edge);
-    expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, arguments.between(0.0, 1e-9), 1.0);
-    expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, arguments.between(-1e15, 1e16), whole / 1e3);
-    const double other = i % 2 == 0 ? arguments.edge() : arguments.between(-9.0, 9.0);
+    const int32_t whole = random.integer();
+    const double edge = random.edge(), small = random.between(-9.0, 9.0);
+    expectSame("LCD2", LCD2, stepwiseLCD2, random.between(-3e9, 3e9), edge);
+    expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, random.between(0.0, 1e-9), 1.0);
+    expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, random.between(-1e15, 1e16), whole / 1e3);
+    const double other = i % 2 == 0 ? random.edge() : random.between(-9.0, 9.0);
     for (const double x : {edge, small}) {
       expectSame("LCD2", LCD2, stepwiseLCD2, x, other);
       expectSame("LCDDbl", LCDDbl, stepwiseLCDDbl, x, other);
@@ -65,12 +70,13 @@ TEST(Divisors, AsStepwise) {
 
 // Of i / 10^places and j / 10^places, i and j of any size that fits 32 bits.
 TEST(Divisors, OfDecimals) {
-  Arguments arguments;
+  Random random;
   for (int i = 0; i < 50000 && !HasFailure(); ++i) {
-    const double scale = std::pow(10.0, arguments.integer(0, 9));
-    const int32_t a = arguments.integer(), b = arguments.integer();
+    const double scale = std::pow(10.0, static_cast<double>(random.below(10)));
+    const int32_t a = random.integer(), b = random.integer();
     const double expected = static_cast<double>(std::gcd(int64_t{a}, int64_t{b})) / scale;
-    EXPECT_NEAR(LCDDbl(a / scale, b / scale), expected, 4e-16 * expected) << shown(a, b, scale);
+    EXPECT_NEAR(LCDDbl(a / scale, b / scale), expected, 4e-16 * expected)
+        << shownCall("LCDDbl", a / scale, b / scale);
   }
 }
 

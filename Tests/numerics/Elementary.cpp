@@ -1,9 +1,8 @@
 #include <cstring>
 
-#include "QUVARDBS1C.h"
 #include "numerics/Constants.h"
 #include "numerics/TruncLng.h"
-#include "support/Doubles.h"
+#include "support/Expectations.h"
 
 namespace {
 
@@ -23,7 +22,7 @@ TEST(Elementary, OneArgument) {
              {1e300, -5.562684646268022e-09}, {1e308, -0.5076431096530029},
              {kInf, -1.5707963267948966}, {kNaN, kNaN});
   expectRows("FSgn", FSgn, {0.0, 0.0}, {-0.0, 0.0}, {kTiny, 1.0}, {-kTiny, -1.0}, {-kInf, kNaN});
-  EXPECT_TRUE(sameBits(Pi(), 3.14159265358979));
+  expectRows("Pi", Pi, {3.14159265358979});
 }
 
 TEST(Elementary, TwoArguments) {
@@ -51,7 +50,7 @@ TEST(Elementary, TruncLng) {
              {below(0x1p31), kHighest}, {-2147483647.75, -kHighest},
              {below(-2147483648.0), kLowest});
   for (const double x : {0x1p31, 0x1p32, -2147483649.0, 1e300, -1e300, kInf, -kInf, kNaN}) {
-    EXPECT_EQ(quvard::TruncLng(x), kLowest) << x;
+    EXPECT_GIVES(quvard::TruncLng, kLowest, x);
   }
 }
 

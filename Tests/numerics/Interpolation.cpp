@@ -1,5 +1,7 @@
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include <array>
+
+#include "support/Expectations.h"
+#include "support/Random.h"
 
 namespace {
 
@@ -63,47 +65,50 @@ Outcome stepwiseQuadratic(const Points& p, HostBool forward, double x, double y)
   return {0, (first * 0.5) / a, (0.5 * second) / a, y};
 }
 
-// Names what differs.
-testing::AssertionResult same(const Outcome& actual, const Outcome& expected) {
-  constexpr std::array kNames{"as status", "in x", "in xSecond", "in y"};
+// Expects what a call leaves behind, part by part.
+void expectOutcome(bool isQuadratic, const Points& p, HostBool forward, double x, double y,
+                   const Outcome& expected) {
+  const Outcome actual = isQuadratic ? quadratic(p, forward, x, y) : linear(p, forward, x, y);
+  constexpr std::array kParts{"status", "x", "xSecond", "y"};
   for (std::size_t i = 0; i < actual.size(); ++i) {
-    if (auto result = sameBits(actual[i], expected[i]); !result) return result << kNames[i];
+    const std::string name =
+        kParts[i] + " of "s + (isQuadratic ? "Quadratic" : "Linear") + "Interpol";
+    const auto part = [&](auto...) { return actual[i]; };
+    EXPECT_PRED_FORMAT1(resultItself, gives(name.c_str(), part, expected[i], p[0], p[1], p[2], p[3],
+                                            p[4], p[5], x, y, forward));
   }
-  return testing::AssertionSuccess();
 }
 
 TEST(Interpolation, WorkedValues) {
   const Points line{1, 3, 0, 2, 6, 0};
-  EXPECT_TRUE(same(linear(line, -1, 2, 9), {0, 2, kOld, 4}));
-  EXPECT_TRUE(same(linear(line, 0, 9, 4), {0, 2, kOld, 4}));
-  EXPECT_TRUE(same(linear({3, 3, 0, 6, 2, 0}, 0, 9, 9), {-1, 3, kOld, 4}));
+  expectOutcome(false, line, -1, 2, 9, {0, 2, kOld, 4});
+  expectOutcome(false, line, 0, 9, 4, {0, 2, kOld, 4});
+  expectOutcome(false, {3, 3, 0, 6, 2, 0}, 0, 9, 9, {-1, 3, kOld, 4});
 
   const Points cup{1, 2, 4, 0, 0, 6}, nearLine{0.1, 0.2, 0.3, 0.2, 0.4, 0.6};
-  EXPECT_TRUE(same(quadratic(cup, -1, 5, 9), {0, 5, kOld, 12}));
-  EXPECT_TRUE(same(quadratic(cup, 0, 9, 6), {0, -1, 4, 6}));
-  EXPECT_TRUE(same(quadratic(cup, 0, 9, -1), {0, kExtreme / 2, -kExtreme / 2, -1}));
-  EXPECT_TRUE(same(quadratic({1, 2, 3, 3, 0, -5}, 0, 9, 0), {0, -2, 2, 0}));
-  EXPECT_TRUE(same(quadratic(nearLine, -1, 1, 9), {0, 1, kOld, 2.0000000000000133}));
-  EXPECT_TRUE(same(quadratic(nearLine, 0, 9, 1), {0, -115581103218731.9, 0.5004511278195494, 1}));
+  expectOutcome(true, cup, -1, 5, 9, {0, 5, kOld, 12});
+  expectOutcome(true, cup, 0, 9, 6, {0, -1, 4, 6});
+  expectOutcome(true, cup, 0, 9, -1, {0, kExtreme / 2, -kExtreme / 2, -1});
+  expectOutcome(true, {1, 2, 3, 3, 0, -5}, 0, 9, 0, {0, -2, 2, 0});
+  expectOutcome(true, nearLine, -1, 1, 9, {0, 1, kOld, 2.0000000000000133});
+  expectOutcome(true, nearLine, 0, 9, 1, {0, -115581103218731.9, 0.5004511278195494, 1});
 }
 
 TEST(Interpolation, AsStepwise) {
-  Arguments arguments;
+  Random random;
   const auto expectAsStepwise = [&](auto draw) {
     Points p;
     for (double& value : p) value = draw();
     const double x = draw(), y = draw();
-    const HostBool flag = arguments.flag();
-    EXPECT_TRUE(same(linear(p, flag, x, y), stepwiseLinear(p, flag, x, y)))
-        << "LinearInterpol of " << shown(p[0], p[1], p[3], p[4], x, y);
-    EXPECT_TRUE(same(quadratic(p, flag, x, y), stepwiseQuadratic(p, flag, x, y)))
-        << "QuadraticInterpol of " << shown(p[0], p[1], p[2], p[3], p[4], p[5], x, y);
+    const HostBool flag = random.below(2) == 0 ? 0 : -1;
+    expectOutcome(false, p, flag, x, y, stepwiseLinear(p, flag, x, y));
+    expectOutcome(true, p, flag, x, y, stepwiseQuadratic(p, flag, x, y));
   };
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
-    expectAsStepwise([&] { return arguments.between(-9.0, 9.0); });
-    expectAsStepwise([&] { return arguments.edge(); });
+    expectAsStepwise([&] { return random.between(-9.0, 9.0); });
+    expectAsStepwise([&] { return random.edge(); });
     for (const double unit : {1.0, 1e-160, 1e160}) {
-      expectAsStepwise([&] { return arguments.integer(-3, 3) * unit; });
+      expectAsStepwise([&] { return (static_cast<double>(random.below(7)) - 3.0) * unit; });
     }
   }
 }

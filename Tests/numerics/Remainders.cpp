@@ -1,5 +1,4 @@
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include "support/SmallScopes.h"
 
 namespace {
 
@@ -11,11 +10,8 @@ TEST(Remainders, Mod) {
   expectRows("Mod", Mod, {7, 3, 1}, {-7, 3, 2}, {7, -3, -2}, {-7, -3, -1}, {7, 0, 7}, {-7, 0, -7},
              {7, -1, 0}, {-6, 3, 0}, {0, -5, 0}, {kLowest, -1, 0}, {-1, kHighest, 2147483646},
              {1, kLowest, -2147483647});
-  Arguments arguments;
-  for (int i = 0; i < 50000 && !HasFailure(); ++i) {
-    const int32_t a = arguments.integer();
-    expectSame("Mod", Mod, floored, a, arguments.integer());
-  }
+  const auto integers = integersNear(40, {-65536, 65536});
+  forEach([](int32_t a, int32_t b) { expectSame("Mod", Mod, floored, a, b); }, integers, integers);
 }
 
 TEST(Remainders, ModDbl) {

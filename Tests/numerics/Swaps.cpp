@@ -1,5 +1,4 @@
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include "support/Expectations.h"
 
 namespace {
 
@@ -15,7 +14,7 @@ TEST(Swaps, EachTakesTheOthersValue) {
   SwapDbl(&x, &y);
   SwapDbl(&x, &x);
   EXPECT_EQ(std::bit_cast<uint64_t>(x), signalling);
-  EXPECT_TRUE(sameBits(y, -0.0));
+  EXPECT_TRUE(same(y, -0.0));
 
   char16_t text[] = u"text";
   BSTR s = text, null = nullptr;

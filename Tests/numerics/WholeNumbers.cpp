@@ -1,5 +1,4 @@
-#include "QUVARDBS1C.h"
-#include "support/Doubles.h"
+#include "support/Expectations.h"
 
 namespace {
 

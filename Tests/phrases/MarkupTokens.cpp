@@ -1,10 +1,22 @@
-#include "support/HostStrings.h"
+#include "support/HostRoutines.h"
+#include "support/SmallScopes.h"
 
 TEST(MarkupTokens, InTheirPlace) {
   for (const auto& [text, expected] :
        {row(L"a<BR>b<QM>c<CM>d", L"a\nb\"c,d"), row(L"<br>< BR><BR >", L"<br>< BR><BR >"),
         row(L"<B<QM>R>", L"<B\"R>"), row(L"<<BR>><BR", L"<\n><BR"), row(L"", L"")}) {
-    EXPECT_EQ(QUVARDHTMLProcessor(text), expected);
+    EXPECT_GIVES(QUVARDHTMLProcessor, expected, text);
   }
-  EXPECT_EQ(QUVARDHTMLProcessor(L"\0<BR>\0"s), L"\0\n\0"s);
+  EXPECT_GIVES(QUVARDHTMLProcessor, L"\0\n\0"s, L"\0<BR>\0"s);
+}
+
+TEST(MarkupTokens, OfEveryShortText) {
+  for (const Text& text : textsUpTo(6, L"<>BRQMC")) {
+    Text expected = text;
+    for (const auto& [token, unit] :
+         {row(L"<BR>", L"\n"), row(L"<QM>", L"\""), row(L"<CM>", L",")}) {
+      expected = replacedStepwise(expected, token, unit);
+    }
+    ASSERT_GIVES(QUVARDHTMLProcessor, expected, text);
+  }
 }

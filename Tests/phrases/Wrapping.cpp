@@ -1,9 +1,11 @@
-#include "support/HostStrings.h"
+#include "support/Expectations.h"
 
 TEST(Wrapping, NothingIsTrimmedOrTested) {
   for (const Text text : {L"", L" (a) ", L"[a word of some length]", L"\xD83D\xDE00"}) {
-    EXPECT_EQ(SpStrSp(text) + PStrP(text), L" " + text + L" (" + text + L")");
-    EXPECT_EQ(taken(VB_BStrB(B(text))), L"[" + text + L"]");
+    EXPECT_GIVES(SpStrSp, L" " + text + L" ", text);
+    EXPECT_GIVES(PStrP, L"(" + text + L")", text);
+    EXPECT_GIVES(VB_BStrB, L"[" + text + L"]", text);
   }
-  EXPECT_EQ(SpStrSp(L"\0"s) + PStrP(L"\0"s), L" \0 (\0)"s);
+  EXPECT_GIVES(SpStrSp, L" \0 "s, L"\0"s);
+  EXPECT_GIVES(PStrP, L"(\0)"s, L"\0"s);
 }

@@ -1,20 +1,19 @@
-#include "support/Doubles.h"
-#include "support/HostStrings.h"
+#include "support/SmallScopes.h"
 
-TEST(Slices, ByPosition) {
-  const B text(u"abcdef");
-  const auto positions = {kLowest, -7, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, kHighest};
-  for (const std::int32_t from : positions) {
-    for (const std::int32_t to : positions) {
-      Text including, between;
-      for (std::int32_t at = from; from >= 1 && to <= 6 && at <= to; ++at) {
-        including += BSTR(text)[at - 1];
-        if (at > from && at < to) between += BSTR(text)[at - 1];
-      }
-      ASSERT_EQ(taken(StrFromTo(text, from, to)), including) << from << ' ' << to;
-      ASSERT_EQ(taken(StrBetween(text, from, to)), between) << from << ' ' << to;
-    }
-  }
+TEST(Slices, AtEveryPairOfPositions) {
+  const std::vector<Text> texts{L"", L"a", L"ab", L"abcdefghi"};
+  forEach(
+      [](const Text& text, int32_t from, int32_t to) {
+        Text including, between;
+        const bool isWithin = from >= 1 && to >= 0 && static_cast<std::size_t>(to) <= text.size();
+        for (int32_t at = from; isWithin && at <= to; ++at) {
+          including += text[static_cast<std::size_t>(at) - 1];
+          if (at > from && at < to) between += including.back();
+        }
+        EXPECT_GIVES(StrFromTo, including, text, from, to);
+        EXPECT_GIVES(StrBetween, between, text, from, to);
+      },
+      texts, integersNear(11), integersNear(11));
 }
 
 TEST(Slices, ByDelimiter) {
@@ -28,10 +27,9 @@ TEST(Slices, ByDelimiter) {
         row(L"abcd", L"", L"cd", L"abc", L"b"), row(L"abc", L"a", L"", L"a", L""),
         row(L"abc", L"b", L"", L"", L""), row(L"abc", L"", L"", L"a", L""),
         row(L"aabbbbbbbbbbbbbbbbbbbb", L"", L"bbbbbbbbbbbbbbbbbbbb", L"aab", L"a")}) {
-    SCOPED_TRACE(::testing::PrintToString(row(text, opening, closing)));
-    EXPECT_EQ(cStrBetweenChrAndChr(text, opening, closing), between);
-    EXPECT_EQ(taken(StrBetweenChrAndChr(B(text), B(opening), B(closing))), between);
-    EXPECT_EQ(taken(StrFromChrToChr(B(text), B(opening), B(closing))), including);
+    EXPECT_GIVES(cStrBetweenChrAndChr, between, text, opening, closing);
+    EXPECT_GIVES(StrBetweenChrAndChr, between, text, opening, closing);
+    EXPECT_GIVES(StrFromChrToChr, including, text, opening, closing);
   }
-  EXPECT_EQ(cStrBetweenChrAndChr(L"\0a\0b"s, L"\0"s, L"\0"s), L"a");
+  EXPECT_GIVES(cStrBetweenChrAndChr, L"a", L"\0a\0b"s, L"\0"s, L"\0"s);
 }

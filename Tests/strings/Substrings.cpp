@@ -1,14 +1,13 @@
-#include "support/Doubles.h"
-#include "support/HostStrings.h"
+#include "support/SmallScopes.h"
 
-TEST(Substrings, LeftAndRight) {
-  for (const auto& [s, n, left, right] :
-       {row(L"Hello", 0, L"", L""), row(L"Hello", 1, L"H", L"o"), row(L"", 3, L"", L""),
-        row(L"Hello", 4, L"Hell", L"ello"), row(L"Hello", 5, L"Hello", L"Hello"),
-        row(L"Hello", 6, L"Hello", L"Hello"), row(L"Hello", kHighest, L"Hello", L"Hello"),
-        row(L"Hello", -1, L"Hello", L"Hello"), row(L"Hello", kLowest, L"Hello", L"Hello")}) {
-    EXPECT_EQ(StrLeft(s, n), left) << n;
-    EXPECT_EQ(StrRight(s, n), right) << n;
+TEST(Substrings, OfEveryLength) {
+  for (const Text s : {L"", L"a", L"ab", L"Hello"}) {
+    for (const int32_t n : integersNear(9)) {
+      const std::size_t size = n < 0 ? s.size() : std::min(s.size(), static_cast<std::size_t>(n));
+      EXPECT_GIVES(StrLeft, s.substr(0, size), s, n);
+      EXPECT_GIVES(StrRight, s.substr(s.size() - size), s, n);
+      EXPECT_GIVES(VB_StrLeft, s.substr(0, size), s, n);
+      EXPECT_GIVES(VB_StrRight, s.substr(s.size() - size), s, n);
+    }
   }
-  EXPECT_EQ(StrLeft(L"a\0b\0c"s, 4) + StrRight(L"a\0b\0c"s, 4), L"a\0b\0\0b\0c"s);
 }

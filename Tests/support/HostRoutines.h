@@ -6,16 +6,20 @@
 #include <utility>
 #include <vector>
 
-#include "support/HostStrings.h"
+#include "support/Expectations.h"
 
 using Texts = std::vector<Text>;
 using Handles = const BSTR*;
 
 // The way across the boundary: the services for the first string, for each other one and for a
-// resulting string, and whether a null first or second string ends the call before any of them.
+// resulting string. A null first or second string may end the call before any of them. The strings
+// may be taken in an order of their own. Where one unit takes the place of one, the text itself may
+// change, and another service gives the result.
 struct Path {
   std::string first, others, result;
   bool endsAtNull = false;
+  std::vector<std::size_t> order = {};
+  std::string resultInPlace = {};
 };
 inline const Path kBuffer{"CW162W32", "CW162W32", "SysAllocString2"};
 inline const Path kToNumber{"CW162W32", "CW162W32", ""};
@@ -24,6 +28,10 @@ inline const Path kBufferAndUnits{"CW162W32", "wcslen16", "SysAllocString2"};
 inline const Path kUnitsOrNull{"wcslen16", "wcslen16", "SysAllocString2", true};
 inline const Path kObject{"convertBSTRtoWstring", "convertBSTRtoWstring", "convertWstringToBSTR"};
 inline const Path kCopy{"", "", "SysAllocString16"};
+inline const Path kReplace{"wcslen16", "wcslen16", "SysAllocString2",
+                           true,       {1, 0, 2},  "SysAllocString16"};
+inline const Path kToWideText{"CW162W32", "", ""};
+inline const Path kHandlesAlone{"", "", ""};
 
 struct HostRoutine {
   std::string name;
@@ -32,14 +40,20 @@ struct HostRoutine {
   std::function<void(Handles)> run;            // the same call, its result released at once
   std::function<Text(const Texts&)> expected;  // the same from wide text, null read as empty
   const Path* path = nullptr;
+
+  // Whether the first text itself changes.
+  bool worksInPlace(const Texts& texts) const {
+    return !path->resultInPlace.empty() && texts[1].size() == 1 && texts[2].size() == 1;
+  }
 };
 
-inline Text shown(BSTR result) { return taken(result); }
-inline Text shown(const Text& result) { return result; }
-inline Text shown(std::int32_t result) { return std::to_wstring(result); }
+inline Text textOf(BSTR result) { return taken(result); }
+inline Text textOf(const Text& result) { return result; }
+inline Text textOf(std::int32_t result) { return std::to_wstring(result); }
 
 inline void discard(BSTR result) { releaseBSTR(result); }
-inline void discard(std::int32_t) {}
+template <typename Result>
+void discard(const Result&) {}
 
 // A host routine that takes host strings and then these scalars, and what does the same with wide
 // text.
@@ -53,9 +67,9 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide
     }
     (std::make_index_sequence<count>());
   };
-  return {name, count, [=](Handles s) { return shown(called(host, s)); },
+  return {name, count, [=](Handles s) { return textOf(called(host, s)); },
           [=](Handles s) { discard(called(host, s)); },
-          [=](const Texts& t) { return shown(called(wide, t)); }};
+          [=](const Texts& t) { return textOf(called(wide, t)); }};
 }
 
 inline Text replacedStepwise(Text text, const Text& pattern, const Text& replacement) {
@@ -84,6 +98,11 @@ inline std::vector<HostRoutine> hostRoutines() {
   const auto replacedOrNull = +[](BSTR text, BSTR pattern, BSTR replacement) -> BSTR {
     const BSTR result = VB_Replace(text, pattern, replacement);
     return result == text ? nullptr : result;
+  };
+  const auto areSwapped = +[](BSTR a, BSTR b) -> HostBool {
+    BSTR first = a, second = b;
+    SwapStr(&first, &second);
+    return first == b && second == a ? -1 : 0;
   };
   const auto firstFormat = +[](std::int32_t digits) -> BSTR {
     BSTR formats[1] = {};
@@ -116,10 +135,12 @@ inline std::vector<HostRoutine> hostRoutines() {
   add(kToNumber, {ROUTINE(VB_CommonChar, CommonChar)});
   add(kToNumberOrNull, {ROUTINE(ChrCount, cChrCount)});
   add(kBufferAndUnits, {ROUTINE(VB_Replace2, replacedTwice)});
-  add(kUnitsOrNull, {ROUTINE(VB_RemoveColon, noColon),
-                     routineOf("VB_Replace", replacedOrNull, replacedStepwise)});
+  add(kUnitsOrNull, {ROUTINE(VB_RemoveColon, noColon)});
+  add(kReplace, {routineOf("VB_Replace", replacedOrNull, replacedStepwise)});
   add(kObject, {ROUTINE(StrBetweenChrAndChr, cStrBetweenChrAndChr), ROUTINE(VB_SpStrSp, SpStrSp)});
   add(kCopy, {ROUTINE(VB_SingPlural, SingPlural, 2)});
+  add(kToWideText, {ROUTINE(convToWstring, [](Text text) { return text; })});
+  add(kHandlesAlone, {routineOf("SwapStr", areSwapped, [](Text, Text) { return -1; })});
 #undef ROUTINE
   return all;
 }

@@ -2,25 +2,14 @@
 #ifndef TESTS_SUPPORT_HOSTSTRINGS_H
 #define TESTS_SUPPORT_HOSTSTRINGS_H
 
-#include <gtest/gtest.h>
-
 #include <memory>
-#include <random>
 #include <string>
-#include <tuple>
 
 #include "QUVARDBS1C.h"
 #include "QUVARDCR1C.h"
 
 using Text = std::wstring;
 using namespace std::string_literals;
-
-// A row of a table, whose columns are named where it is gone through:
-//   for (const auto& [text, expected] : {row(L"a", L"A"), row(L"b", L"B")})
-template <typename... Columns>
-auto row(Columns... columns) {
-  return std::tuple(columns...);
-}
 
 // 16-bit text as wide text, one unit for one.
 inline Text widened(const std::u16string& text) { return {text.begin(), text.end()}; }
@@ -32,19 +21,6 @@ inline Text allUnits() {
   Text all;
   for (wchar_t unit = 1; unit <= 0xFFFF; ++unit) all.push_back(unit);
   return all;
-}
-
-// Random numbers, the same in every run.
-inline std::size_t randomBelow(std::size_t limit) {
-  static std::mt19937 engine(20260101);
-  return engine() % limit;
-}
-
-// Random texts over a small alphabet, where patterns occur, overlap and come together.
-inline Text randomText(const Text& alphabet, std::size_t longest) {
-  Text text(randomBelow(longest + 1), L' ');
-  for (wchar_t& unit : text) unit = alphabet[randomBelow(alphabet.size())];
-  return text;
 }
 
 // A host string of the given text, released at the end of its life.
@@ -62,9 +38,12 @@ class B {
   BSTR handle_;
 };
 
-// The text of a result, which is released; a marker that no text equals for the null handle.
+// What stands for the null handle where texts are compared: no text equals it.
+inline const Text kNullHandle = L"(null handle)";
+
+// The text of a result, which is released.
 inline Text taken(BSTR result) {
-  if (result == nullptr) return L"(null handle)";
+  if (result == nullptr) return kNullHandle;
   const std::unique_ptr<char16_t, void (*)(BSTR)> owner(result, releaseBSTR);
   return widened(result);
 }

@@ -1,0 +1,124 @@
+// Expectations whose failures tell the routine, its arguments, what it gives and what was expected.
+#ifndef TESTS_SUPPORT_EXPECTATIONS_H
+#define TESTS_SUPPORT_EXPECTATIONS_H
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iomanip>
+#include <sstream>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "support/Doubles.h"
+#include "support/HostStrings.h"
+
+// A row of a table, whose columns are named where it is gone through:
+//   for (const auto& [text, expected] : {row(L"a", L"A"), row(L"b", L"B")})
+template <typename... Columns>
+auto row(Columns... columns) {
+  return std::tuple(columns...);
+}
+
+// A value as a failure shows it; of a long text the units around a place.
+inline std::string shown(const Text& text, std::size_t place = 0) {
+  constexpr std::size_t kAround = 30;
+  const std::size_t start = place < kAround ? 0 : std::min(place, text.size()) - kAround;
+  std::ostringstream out;
+  out << (start > 0 ? "...\"" : "\"");
+  for (const wchar_t unit : text.substr(start, 2 * kAround)) {
+    if (unit >= L' ' && unit <= L'~') {
+      out << static_cast<char>(unit);
+    } else {
+      out << "\\x{" << std::hex << static_cast<uint32_t>(unit) << std::dec << '}';
+    }
+  }
+  out << (text.size() > start + 2 * kAround ? "\"..." : "\"");
+  if (text.size() > 2 * kAround) out << " of " << text.size() << " units";
+  return out.str();
+}
+inline std::string shown(std::nullptr_t, std::size_t = 0) { return "null"; }
+template <typename Number>
+requires std::is_arithmetic_v<Number> std::string shown(Number number, std::size_t = 0) {
+  std::ostringstream out;
+  out << std::setprecision(17) << number;
+  return out.str();
+}
+
+template <typename... Arguments>
+std::string shownCall(const std::string& routine, const Arguments&... arguments) {
+  std::string list;
+  ((list += (list.empty() ? "" : ", ") + shown(arguments)), ...);
+  return routine + "(" + list + ")";
+}
+
+// Results as they are compared: texts and numbers.
+inline Text comparable(BSTR result) { return taken(result); }
+inline Text comparable(const Text& text) { return text; }
+template <typename Number>
+requires std::is_arithmetic_v<Number>
+double comparable(Number number) { return static_cast<double>(number); }
+
+inline bool same(const Text& a, const Text& b) { return a == b; }
+inline std::size_t firstDifference(const Text& a, const Text& b) {
+  return static_cast<std::size_t>(std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first -
+                                  a.begin());
+}
+inline std::size_t firstDifference(double, double) { return 0; }
+
+template <typename Call, typename Expected, typename... Arguments>
+testing::AssertionResult gives(const char* routine, const Call& call, const Expected& expected,
+                               const Arguments&... arguments) {
+  const auto actual = comparable(call(arguments...)), wanted = comparable(expected);
+  if (same(actual, wanted)) return testing::AssertionSuccess();
+  const std::size_t place = firstDifference(actual, wanted);
+  return testing::AssertionFailure()
+         << shownCall(routine, arguments...) << "\n  gives    " << shown(actual, place)
+         << "\n  expected " << shown(wanted, place)
+         << (place > 0 ? "\n  first difference at unit " + std::to_string(place) : "");
+}
+
+// A text as the argument of a host routine; anything else as it is.
+template <typename Argument>
+decltype(auto) asHostArgument(const Argument& argument) {
+  if constexpr (std::is_convertible_v<Argument, Text> && !std::is_null_pointer_v<Argument>) {
+    return B(Text(argument));
+  } else {
+    return argument;
+  }
+}
+
+// Expects that a routine gives a result: EXPECT_GIVES(VB_StrLeft, L"He", L"Hello", 2). A host
+// routine is given host strings of the texts.
+#define EXPECT_GIVES(...) EXPECT_PRED_FORMAT1(resultItself, GIVES(__VA_ARGS__))
+#define ASSERT_GIVES(...) ASSERT_PRED_FORMAT1(resultItself, GIVES(__VA_ARGS__))
+#define GIVES(routine, ...) gives(#routine, CALL(routine), __VA_ARGS__)
+#define CALL(routine)                                  \
+  [&](const auto&... arguments) {                      \
+    if constexpr (requires { routine(arguments...); }) \
+      return routine(arguments...);                    \
+    else                                               \
+      return routine(asHostArgument(arguments)...);    \
+  }
+inline testing::AssertionResult resultItself(const char*, testing::AssertionResult result) {
+  return result;
+}
+
+// Each row has the arguments of the routine and its result.
+template <typename Result, typename... Parameters, std::size_t... columns>
+void expectRows(const char* name, Result (*routine)(Parameters...),
+                const double (&... rows)[columns]) {
+  static_assert(((columns == sizeof...(Parameters) + 1) && ...));
+  const auto expectRow = [&]<std::size_t... i>(const double* row, std::index_sequence<i...>) {
+    EXPECT_PRED_FORMAT1(
+        resultItself, gives(name, routine, row[sizeof...(i)], static_cast<Parameters>(row[i])...));
+  };
+  (expectRow(rows, std::index_sequence_for<Parameters...>()), ...);
+}
+
+void expectSame(const char* name, auto routine, auto reference, auto... arguments) {
+  EXPECT_PRED_FORMAT1(resultItself, gives(name, routine, reference(arguments...), arguments...));
+}
+
+#endif

@@ -1,0 +1,69 @@
+// Random arguments. Each test has an engine of its own, the same in every run.
+#ifndef TESTS_SUPPORT_RANDOM_H
+#define TESTS_SUPPORT_RANDOM_H
+
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <string>
+
+class Random {
+ public:
+  std::size_t below(std::size_t limit) { return bits_() % limit; }
+
+  double between(double low, double high) {
+    return low + (high - low) * (static_cast<double>(bits_() >> 11) * 0x1p-53);
+  }
+
+  // Any integer, small ones as often as large ones.
+  int32_t integer() { return static_cast<int32_t>(bits_()) >> below(32); }
+
+  // A text over a small alphabet, where patterns occur, overlap and come together.
+  std::wstring text(const std::wstring& alphabet, std::size_t longest) {
+    std::wstring text(below(longest + 1), L' ');
+    for (wchar_t& unit : text) unit = alphabet[below(alphabet.size())];
+    return text;
+  }
+
+  // A value of either sign at some edge or close to it, or any double.
+  double edge() {
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kEdges[] = {0.0,
+                                 0x1p-1074,
+                                 1e-300,
+                                 1e-12,
+                                 0x1p-51,
+                                 1e-6,
+                                 0.25,
+                                 0.5,
+                                 1.0,
+                                 2.0,
+                                 6.5,
+                                 709.0,
+                                 1e10,
+                                 0x1p31,
+                                 0x1p31 - 1,
+                                 0x1p32,
+                                 0x1p52,
+                                 0x1p53,
+                                 1e16,
+                                 1e300,
+                                 kLargest,
+                                 kInfinity,
+                                 std::numeric_limits<double>::quiet_NaN()};
+    const std::size_t choice = below(std::size(kEdges) + 4);
+    double x = choice < std::size(kEdges) ? kEdges[choice] : std::bit_cast<double>(bits_());
+    const std::size_t shift = below(9);
+    if (shift == 1) x = std::nextafter(x, kInfinity);
+    if (shift == 2) x = std::nextafter(x, -kInfinity);
+    if (shift > 6) x += static_cast<double>(shift) * 0.25;
+    return shift % 2 == 0 ? x : -x;
+  }
+
+ private:
+  std::mt19937_64 bits_{20240607};
+};
+
+#endif
