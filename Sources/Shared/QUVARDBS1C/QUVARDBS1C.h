@@ -211,7 +211,8 @@ QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 /// the first unit out of the leftmost occurrence. With a @p chars of one unit, every such unit
 /// goes.
 ///
-/// One pass over @p s, in which each removal reads again at most twice the length of @p chars.
+/// The time is linear in @p s and @p chars, whatever they hold. With a @p chars above 16 units, the
+/// call needs memory for one number for each of their units.
 ///
 /// @param chars  what to look for; empty: @p s comes back unchanged
 /// @throws std::bad_alloc
@@ -268,6 +269,9 @@ QUVARDBS1C_API BSTR VB_RemoveColon(BSTR s);
 // C++ linkage: the symbol encodes the types of the arguments, as do those of Replace() and LCD2().
 extern "C++" {
 /// Whether @p text and @p chars have a unit in common.
+///
+/// The time is linear in @p text and @p chars, but for units above 0xFFFF in a @p chars above 64 units:
+/// if there are n of these, they are sorted in n log n steps, and each such unit of @p text takes log n.
 ///
 /// @return -1 or 0
 /// @throws std::bad_alloc

@@ -1,4 +1,7 @@
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -45,7 +48,7 @@ auto digitsOf(std::wstring_view text) {
 Replaced<char16_t, char16_t> withoutColons(std::u16string_view text) { return {text, u":", {}}; }
 
 // Takes the first unit out of the leftmost occurrence of `chars` until there is none, and gives what
-// is left.
+// is left. After each removal up to twice the length of `chars` is searched again.
 std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
   const quvard::PatternSearch<wchar_t> search(chars);
   wchar_t* const end = text.data() + text.size();
@@ -66,10 +69,110 @@ std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view c
   }
 }
 
+// How far a text matches `chars`: for each place in the text, the number of units before it that are
+// the start of `chars`, the longest such number (Knuth, Morris and Pratt, 1977).
+using Match = uint32_t;
+
+// One more unit. `borders[n]` is the longest match of the first n units, but for all n of them.
+Match extendMatch(Match match, wchar_t unit, std::wstring_view chars, const Match* borders) {
+  while (match > 0 && chars[match] != unit) match = borders[match];
+  return match + (chars[match] == unit ? 1 : 0);
+}
+
+// Writes the borders of `chars`.
+void findBorders(std::wstring_view chars, Match* borders) {
+  borders[0] = 0;
+  if (!chars.empty()) borders[1] = 0;
+  for (std::size_t i = 1; i < chars.size(); ++i) {
+    borders[i + 1] = extendMatch(borders[i], chars[i], chars, borders);
+  }
+}
+
+// For each match at a gap that is followed by the tail, `chars` without its first unit: how many units
+// before the gap are in an occurrence that reaches over it, or 0. A match of one unit is what the
+// tail lacks. A longer one has the tail's own first units after that one, so its other units and the
+// tail are the start of the tail just where the tail repeats itself after so many units.
+// `scratch` has room for the borders of the tail.
+void findReaches(std::wstring_view chars, const Match* borders, Match* reaches, Match* scratch) {
+  const std::wstring_view tail = chars.substr(1);
+  std::fill_n(reaches, chars.size(), 0);
+  reaches[1] = 1;
+  findBorders(tail, scratch);
+  for (Match border = scratch[tail.size()]; border > 0; border = scratch[border]) {
+    const std::size_t reach = chars.size() - border;
+    reaches[reach] = static_cast<Match>(reach);
+  }
+  for (std::size_t match = 1; match < chars.size(); ++match) {
+    if (reaches[match] == 0) reaches[match] = reaches[borders[match]];
+  }
+}
+
+// The same for a long `chars`, in linear time. A removal leaves the tail after the gap, whatever was
+// before it, so the match at the gap alone decides where the next occurrence is: over the gap, or
+// further on. Then the match after the tail is the border of `chars`.
+std::span<wchar_t> removeFirstUnitsOfLong(std::span<wchar_t> text, std::wstring_view chars) {
+  const std::size_t size = chars.size();
+  if (text.size() < size) return text;
+  const std::wstring_view tail = chars.substr(1);
+
+  // One run of memory for all, in place for short texts.
+  Match inPlace[3 * (quvard::kUnitsInPlace + 1)];
+  std::unique_ptr<Match[]> onHeap;
+  const std::size_t room = (text.size() + 1) + 2 * (size + 1);
+  if (room > std::size(inPlace)) onHeap.reset(new Match[room]);
+  Match* const matches = onHeap ? onHeap.get() : inPlace;  // after each number of units kept
+  Match* const borders = matches + text.size() + 1;
+  Match* const reaches = borders + size + 1;
+  findBorders(chars, borders);
+  findReaches(chars, borders, reaches, matches);
+  matches[0] = 0;
+
+  std::size_t kept = 0;
+  std::size_t next = 0;  // start of what is not read
+  // The tail that the last removal left. From `unwritten` to its end, its units and matches are only
+  // written when they are needed.
+  std::size_t tailStart = 0;
+  std::size_t unwritten = 0;
+  std::size_t tailEnd = 0;
+  const auto writeTail = [&](std::size_t end) {
+    for (; unwritten < std::min(end, tailEnd); ++unwritten) {
+      text[unwritten] = tail[unwritten - tailStart];
+      matches[unwritten + 1] = extendMatch(matches[unwritten], text[unwritten], chars, borders);
+    }
+  };
+
+  Match match = 0;
+  while (next < text.size()) {
+    text[kept] = text[next++];
+    match = extendMatch(match, text[kept], chars, borders);
+    matches[++kept] = match;
+    if (match < size) continue;
+
+    std::size_t gap = kept - size;
+    writeTail(gap);
+    while (const Match reach = reaches[matches[gap]]) {
+      gap -= reach;
+      // The units between the two gaps begin the tail now, and as many at its end are read again.
+      const std::wstring_view again = tail.substr(size - reach);
+      next -= again.size();
+      copyUnits(again, text.data() + next);
+    }
+    tailStart = unwritten = gap;
+    tailEnd = kept = gap + tail.size();
+    match = borders[size];
+  }
+  writeTail(kept);
+  return text.first(kept);
+}
+
 std::span<wchar_t> removeChars(std::span<wchar_t> text, std::wstring_view chars) {
   if (chars.empty()) return text;
-  if (chars.size() > 1) return removeFirstUnits(text, chars);
-  return {text.data(), withoutUnit({text.data(), text.size()}, chars.front()).write(text.data())};
+  if (chars.size() == 1) {
+    return {text.data(), withoutUnit({text.data(), text.size()}, chars.front()).write(text.data())};
+  }
+  constexpr std::size_t kShort = 16;
+  return chars.size() <= kShort ? removeFirstUnits(text, chars)
+                                : removeFirstUnitsOfLong(text, chars);
 }
 
 }  // namespace
