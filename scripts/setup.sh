@@ -66,7 +66,7 @@ libcxx_needs=(
   "c++/v1/string.h:libc++-dev libc++abi-dev:llvm"
 )
 valgrind_needs=(
-  valgrind:valgrind:
+  valgrind/valgrind.h:valgrind:
 )
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
