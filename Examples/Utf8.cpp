@@ -6,7 +6,7 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-// The code point at `at`, which moves behind it; kReplacement for a byte that begins none.
+// The code point at `at`, which moves past it; kReplacement for a byte that begins none.
 char32_t decoded(const std::string& utf8, std::size_t& at) {
   const auto byte = [&utf8](std::size_t i) { return static_cast<std::uint8_t>(utf8[i]); };
   const std::uint8_t lead = byte(at++);

@@ -1,4 +1,4 @@
-# The compile options of every target of this project stand here and nowhere else.
+# The compile options of every target of this project are here and nowhere else.
 
 add_library(QUVARDCompileOptions INTERFACE)
 target_compile_features(QUVARDCompileOptions INTERFACE cxx_std_20)

@@ -311,7 +311,7 @@ Public Function StrFromChrToChr( _
     StrFromChrToChr = TakeText(Dll_StrFromChrToChr(StrPtr(text), StrPtr(opening), StrPtr(closing)))
 End Function
 
-' What lies between the first opening and the first closing after it; empty if either is not
+' What is between the first opening and the first closing after it; empty if either is not
 ' found. Delimiters are of one unit each.
 Public Function StrBetweenChrAndChr( _
     ByVal text As String, ByVal opening As String, ByVal closing As String) As String

@@ -102,7 +102,7 @@ Public Module QUVARDBS1C
         <MarshalAs(LPWStr)> ByVal closing As String
         ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
 
-    ' What lies between the first opening and the first closing after it; empty if either is not
+    ' What is between the first opening and the first closing after it; empty if either is not
     ' found. Delimiters are of one unit each.
     Public Declare Function StrBetweenChrAndChr Lib "QUVARDBS1C.dll" (
         <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal opening As String,

@@ -312,9 +312,9 @@ QUVARDBS1C_API int32_t ChrCount(BSTR text, BSTR pattern);
 /// @{
 
 #ifdef __cplusplus
-/// What lies between the first @p opening and the first @p closing behind it, both left out. The
-/// slice starts one unit behind the start of @p opening, also if that is empty, and @p closing is
-/// searched from there.
+/// What is between the first @p opening and the first @p closing after it, both left out. The slice
+/// starts one unit after the start of @p opening, also if that is empty, and @p closing is searched
+/// from there.
 ///
 /// @return empty if either is not found, or @p closing is empty
 /// @throws std::bad_alloc
@@ -327,7 +327,7 @@ QUVARDBS1C_API std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring
 ///
 /// @param from  1 or more
 /// @param to    not beyond the end of @p text
-/// @return      new host string; empty for any other positions, and if @p to lies before @p from
+/// @return      new host string; empty for any other positions, and if @p to is before @p from
 /// @throws std::bad_alloc
 /// @b Example: `StrFromTo(B(u"abcdef"), 2, 5) == B(u"bcde")`
 QUVARDBS1C_API BSTR StrFromTo(BSTR text, int32_t from, int32_t to);
@@ -336,7 +336,7 @@ QUVARDBS1C_API BSTR StrFromTo(BSTR text, int32_t from, int32_t to);
 ///
 /// @param from  1 or more
 /// @param to    not beyond the end of @p text
-/// @return      new host string; empty for any other positions, and if @p to is not behind @p from
+/// @return      new host string; empty for any other positions, and if @p to is not after @p from
 /// @throws std::bad_alloc
 /// @b Example: `StrBetween(B(u"abcdef"), 2, 5) == B(u"cd")`
 QUVARDBS1C_API BSTR StrBetween(BSTR text, int32_t from, int32_t to);
@@ -545,7 +545,7 @@ QUVARDBS1C_API BSTR VB_SingPlural(BSTR singular, BSTR plural, int32_t count);
 /// @{
 
 #ifdef __cplusplus
-/// @p text with its markup tokens turned into the characters that they stand for: `<BR>` into a
+/// @p text with its markup tokens turned into the characters that they mean: `<BR>` into a
 /// line feed, `<QM>` into a double quotation mark, `<CM>` into a comma. Case counts.
 ///
 /// @throws std::bad_alloc
@@ -583,7 +583,7 @@ QUVARDBS1C_API std::wstring DecimalFormat(int32_t decimals);
 /// @param formats         the first of at least @p count strings
 /// @param count           number of elements; below 1 nothing happens
 /// @param digits          digits of the pattern, the one before the point included
-/// @param digitsOverride  if it is not exactly -1, stands in the place of @p digits
+/// @param digitsOverride  if it is not exactly -1, it counts in the place of @p digits
 /// @throws std::bad_alloc
 /// @b Example: `[] { std::wstring f[2]; SetFormat(f, 2, 4, -1); return f[1]; }() == L"0.000"`
 QUVARDBS1C_API void SetFormat(std::wstring* formats, int32_t count, int32_t digits,
@@ -626,13 +626,13 @@ QUVARDBS1C_API std::wstring OptimalFormat(double value, int32_t decimals, HostBo
 QUVARDBS1C_API BSTR Cpp_DecimalFormat(int32_t decimals);
 
 /// Host form of SetFormat(): writes a new host string to each of @p count elements. What an element
-/// held is neither read nor released. If it throws, the elements in front hold their new strings,
+/// held is neither read nor released. If it throws, the elements before it hold their new strings,
 /// so a caller that set all of them to null beforehand can release them.
 ///
 /// @param formats         the first of at least @p count handles
 /// @param count           number of elements; below 1 nothing happens
 /// @param digits          digits of the pattern, the one before the point included
-/// @param digitsOverride  if it is not exactly -1, stands in the place of @p digits
+/// @param digitsOverride  if it is not exactly -1, it counts in the place of @p digits
 /// @throws std::bad_alloc
 /// @b Example: `[] { BSTR f[1]; VB_SetFormat(f, 1, 4, 2); return f[0]; }() == B(u"0.0")`
 QUVARDBS1C_API void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits,
@@ -696,7 +696,7 @@ QUVARDBS1C_API double spow(double base, double exponent) QUVARDBS1C_NOEXCEPT;
 
 /// exp(x) - 1.
 ///
-/// Method: x + 0.5 * x * x for abs(x) up to 1e-6, else exp(x) + (-1.0), which cancels near 0.
+/// Method: x + 0.5 * x * x for abs(x) up to 1e-6, else exp(x) - 1.0, which cancels near 0.
 ///
 /// Accuracy: by search, relative error at most 1.3e-16 for abs(x) up to 1e-8, growing to 1.7e-13 at
 /// 1e-6; then 1.7e-16 / abs(x) up to 1; 1.1 units in the last place for abs(x) from 1 to 709.
@@ -820,7 +820,7 @@ QUVARDBS1C_API double Fact(int32_t n) QUVARDBS1C_NOEXCEPT;
 /// | m from 2                 | r = 1 + q, then for i = 2 to m: r = ((q + i) * r) / i         |
 ///
 /// Truncated is toward zero to a 32-bit integer; what does not fit, and NaN, counts as -2147483648.
-/// Fractions and negative numbers are not refused: the table holds for them as it stands. Where
+/// Fractions and negative numbers are not refused: the table holds for them as it is. Where
 /// there are passes at all, q is finite and at least m. Each then multiplies r by 2 or more, but
 /// for rounding, so that r is infinite after at most 515 of them, whatever the arguments. No later
 /// pass changes that.
@@ -978,7 +978,7 @@ QUVARDBS1C_API double Int05LU(double v, HostBool half, HostBool lower) QUVARDBS1
 /// The line through two points and the parabola through three, in both directions.
 ///
 /// @p forward counts if it is True: the value at an abscissa is worked out; otherwise the abscissa,
-/// or abscissae, of a value. Points may stand in any order. Every pointer must be valid, also one
+/// or abscissae, of a value. Points may come in any order. Every pointer must be valid, also one
 /// that a direction leaves untouched.
 /// @{
 

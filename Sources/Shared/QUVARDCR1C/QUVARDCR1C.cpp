@@ -84,7 +84,7 @@ std::uint32_t valueOf(wchar_t unit) { return static_cast<std::uint32_t>(unit); }
 bool isSupplementary(std::uint32_t value) { return value > kLastBmp && value <= kLastCodePoint; }
 
 // The general way out, for text that holds a unit beyond 16 bits.
-BSTR allocatedWithPairs(const wchar_t* units, std::size_t length) {
+BSTR allocateWithPairs(const wchar_t* units, std::size_t length) {
   std::size_t pairs = 0;
   for (std::size_t i = 0; i < length; ++i) pairs += isSupplementary(valueOf(units[i])) ? 1U : 0U;
 
@@ -114,7 +114,7 @@ BSTR SysAllocString16(const char16_t* units) {
 }
 
 std::size_t wcslen16(const char16_t* units) {
-  // A unit may only be read once the one in front is known not to end the text, so this cannot be
+  // A unit may only be read once the one before it is known not to end the text, so this cannot be
   // made wide. In steps of eight, the tests are all that is left.
   constexpr std::size_t kStep = 8;
   for (std::size_t start = 0;; start += kStep) {
@@ -145,7 +145,7 @@ BSTR SysAllocString2(const wchar_t* units) {
   }
   if (seen > kLastBmp) {
     result.reset();
-    return allocatedWithPairs(units, length);
+    return allocateWithPairs(units, length);
   }
   out[length] = 0;
   return result.release();

@@ -2,8 +2,8 @@
 /// Host strings: how they are made, read and released.
 ///
 /// A host string (`BSTR`) is one pointer to the first unit of a run of 16-bit units that ends at
-/// its first zero unit. Nothing in front of that pointer is ever read, so any zero-terminated run
-/// of 16-bit units may stand where a service takes a host string.
+/// its first zero unit. Nothing before that pointer is ever read, so any zero-terminated run of
+/// 16-bit units may be given where a service takes a host string.
 ///
 /// Units pass one for one. On the way in each 16-bit unit becomes one wide unit of the same value,
 /// and no surrogate pair is folded, so positions and lengths mean the same on both sides. On the
@@ -48,7 +48,7 @@ typedef uint_least16_t QUVARDUnit16;
 /// @throws std::bad_alloc
 QUVARDCR1C_API BSTR SysAllocString16(const QUVARDUnit16* units);
 
-/// The number of units in front of the terminating zero unit. Does not throw.
+/// The number of units before the terminating zero unit. Does not throw.
 ///
 /// @param units  zero-terminated 16-bit units, not null
 QUVARDCR1C_API size_t wcslen16(const QUVARDUnit16* units);

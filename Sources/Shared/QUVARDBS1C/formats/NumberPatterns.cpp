@@ -105,10 +105,10 @@ BSTR Cpp_DecimalFormat(int32_t decimals) { return giveOut(DecimalPattern{decimal
 void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits, int32_t digitsOverride) {
   if (count < 1) return;
   const quvard::TextBuffer pattern(digitPattern(digits, digitsOverride));
-  std::generate_n(formats, count, [&pattern] { return SysAllocString2(pattern.c_str()); });
+  std::generate_n(formats, count, [&pattern] { return giveOut(pattern.c_str()); });
 }
 
-BSTR VB_OutputFormat(double value) { return SysAllocString2(outputPattern(value)); }
+BSTR VB_OutputFormat(double value) { return giveOut(outputPattern(value)); }
 
 BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool useExponent, HostBool keepDecimals) {
   return giveOut(optimalPattern(value, decimals, useExponent, keepDecimals));

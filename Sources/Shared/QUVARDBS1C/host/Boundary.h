@@ -3,37 +3,36 @@
 //
 //   BSTR VB_StrLeft(BSTR s, int32_t n) { return viaBuffer(leftOf, s, n); }
 //
-// On every route a text ends at its first zero unit, on the object route as far as the services do
-// so, and a surrogate pair is two units on its way in and out.
+// | Host routine                 | Route                | Null handle    | Zero unit | Surrogates |
+// |------------------------------|----------------------|----------------|-----------|------------|
+// | VB_StrLeft, VB_StrRight      | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_StrLTrim, VB_StrRTrim     | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_StrLRTrim                 | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_StrConcat                 | joinViaBuffer        | empty text     | ends it   | two units  |
+// | VB_RemoveChar                | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_RemoveNonNumericChar      | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_RemoveColon               | viaUnits             | gives null     | ends it   | two units  |
+// | VB_CommonChar                | viaBuffer            | empty text     | ends it   | two units  |
+// | ChrCount                     | viaBuffer            | gives 0        | ends it   | two units  |
+// | StrFromTo, StrBetween        | viaBuffer            | empty text     | ends it   | two units  |
+// | StrFromChrToChr              | viaBuffer            | empty text     | ends it   | two units  |
+// | StrBetweenChrAndChr          | viaObject            | empty text     | ends it   | two units  |
+// | VB_Replace, one unit by one  | unitsOf; copies text | gives text (1) | ends it   | two units  |
+// | VB_Replace, otherwise        | unitsOf; giveOut     | gives text (1) | ends it   | two units  |
+// | VB_Replace2                  | takeIn text, unitsOf | empty text     | ends it   | two units  |
+// |                              | the others; giveOut  |                |           |            |
+// | VB_LocalAN, VB_LocalAN2      | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_LowerFirst, VB_UpperFirst | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_SpStrSp                   | viaObject            | empty text     | ends it   | two units  |
+// | VB_PStrP, VB_BStrB           | viaBuffer            | empty text     | ends it   | two units  |
+// | VB_SingPlural                | copies its argument  | empty text     | ends it   | two units  |
+// | VB_QUVARDHTMLProcessor       | viaBuffer            | empty text     | ends it   | two units  |
+// | Cpp_DecimalFormat            | giveOut              | takes no text  |           |            |
+// | VB_OutputFormat              | giveOut              | takes no text  |           |            |
+// | VB_OptimalFormat             | giveOut              | takes no text  |           |            |
+// | VB_SetFormat                 | giveOut, many times  | takes no text  |           |            |
 //
-// | Host routine                          | Route               | Null handle                     |
-// |---------------------------------------|---------------------|---------------------------------|
-// | VB_StrLeft, VB_StrRight               | viaBuffer           | empty text                      |
-// | VB_StrLTrim, VB_StrRTrim              | viaBuffer           | empty text                      |
-// | VB_StrLRTrim                          | viaBuffer           | empty text                      |
-// | VB_StrConcat                          | joinViaBuffer       | empty text                      |
-// | VB_RemoveChar                         | viaBuffer           | empty text                      |
-// | VB_RemoveNonNumericChar               | viaBuffer           | empty text                      |
-// | VB_RemoveColon                        | viaUnits            | gives the null handle           |
-// | VB_CommonChar                         | viaBuffer           | empty text                      |
-// | ChrCount                              | viaBuffer           | gives 0, nothing is taken in    |
-// | StrFromTo, StrBetween                 | viaBuffer           | empty text                      |
-// | StrFromChrToChr                       | viaBuffer           | empty text                      |
-// | StrBetweenChrAndChr                   | viaObject           | left to the service             |
-// | VB_Replace                            | unitsOf, then       | a null text or pattern gives    |
-// |                                       | giveOut or          | the handle of the text itself,  |
-// |                                       | SysAllocString16    | a null replacement is empty     |
-// | VB_Replace2                           | takeIn the text,    | empty text                      |
-// |                                       | unitsOf the others, |                                 |
-// |                                       | then giveOut        |                                 |
-// | VB_LocalAN, VB_LocalAN2               | viaBuffer           | empty text                      |
-// | VB_LowerFirst, VB_UpperFirst          | viaBuffer           | empty text                      |
-// | VB_SpStrSp                            | viaObject           | left to the service             |
-// | VB_PStrP, VB_BStrB                    | viaBuffer           | empty text                      |
-// | VB_SingPlural                         | SysAllocString16    | left to the service             |
-// | VB_QUVARDHTMLProcessor                | viaBuffer           | empty text                      |
-// | Cpp_DecimalFormat, VB_OptimalFormat   | giveOut             | takes no text                   |
-// | VB_SetFormat, VB_OutputFormat         | SysAllocString2     | takes no text                   |
+// (1) A null text or pattern gives the handle of the text itself; a null replacement is empty.
 #ifndef QUVARDBS1C_HOST_BOUNDARY_H
 #define QUVARDBS1C_HOST_BOUNDARY_H
 
@@ -77,6 +76,7 @@ inline TextBuffer takeIn(BSTR handle) {
 inline int32_t takeIn(int32_t number) { return number; }
 
 inline BSTR giveOut(const Draft auto& text) { return SysAllocString2(TextBuffer(text).c_str()); }
+inline BSTR giveOut(const wchar_t* text) { return SysAllocString2(text); }
 inline BSTR giveOut(std::wstring_view text) { return SysAllocString2(TextBuffer(text).c_str()); }
 // The first units of a TextBuffer, which has room for a zero unit after them.
 inline BSTR giveOut(std::span<wchar_t> text) {
@@ -117,7 +117,7 @@ BSTR joinViaBuffer(Handles... texts) {
   for (const BSTR text : {texts...}) {
     if (text != nullptr) joined.append(CW162W32(text));
   }
-  return SysAllocString2(joined.c_str());
+  return giveOut(joined.c_str());
 }
 
 template <typename Core>
