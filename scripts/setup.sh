@@ -68,6 +68,12 @@ libcxx_needs=(
 valgrind_needs=(
   valgrind/valgrind.h:valgrind:
 )
+bits_needs=(
+  "${test_needs[@]}"
+  "${compiler_needs[@]}"
+  "${libcxx_needs[@]}"
+  python3-gmpy2:python3-gmpy2:gmpy2
+)
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
   mpfr.h:libmpfr-dev:mpfr
@@ -195,6 +201,7 @@ has() {
   case $need in
     cmake) has_cmake ;;
     *.h) has_header "$need" ;;
+    python3-*) /usr/bin/python3 -c "import ${need#python3-}" 2>/dev/null ;;
     *) command -v "$need" >/dev/null ;;
   esac
 }

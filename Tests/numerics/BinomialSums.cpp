@@ -12,15 +12,6 @@ double stepwise(double n, double from, double to) {
   return sum;
 }
 
-TEST(BinomialSums, WorkedValues) {
-  expectRows("SumCnk", SumCnk, {5, 0, 5, 32}, {5, 2.7, 3.9, 20}, {5, kHighest, kInf, 0},
-             {1e300, kLowest, kInf, 4198660.0}, {0.3, kLowest, kInf, 2.3058430092123919e+18},
-             {kNaN, 2147483647.75, 2147483647.0, 2147483648.0},
-             {kInf, 2147483646.0, 1e10, 4294967295.0}, {-kInf, kLowest, kInf, 0},
-             {5, -1e10, -2147483648.0, -2147483647.0}, {5, kNaN, -2147483647.5, -2147483647.0},
-             {5, -1e10, -2147483649.0, 0}, {2000, 0, 2000, kInf});
-}
-
 TEST(BinomialSums, AsStepwise) {
   Random random;
   // Around the places where one kind of term ends and the next begins.
@@ -50,10 +41,11 @@ TEST(BinomialSums, AsStepwise) {
 
 TEST(BinomialSums, NoArgumentRunsLong) {
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(SumCnk(4294967294.0, 0, kInf), kInf);
-  EXPECT_EQ(SumCnk(-5, 0, kInf), 0.0);
+  expectRows("SumCnk", SumCnk, {4294967294.0, 0, kInf, kInf}, {-5, 0, kInf, 0},
+             {1e300, kLowest, kInf, 4198660.0}, {0.3, kLowest, kInf, 2.3058430092123919e+18},
+             {-kInf, kLowest, kInf, 0});
   EXPECT_GT(SumCnk(1020.5, 0, kInf), 1e307);
-  for (const double n : {0.3, 1e9 + 0.1, -1e9, 2147483647.75, 3e9, 1e300, kInf, kNaN}) {
+  for (const double n : {1e9 + 0.1, -1e9, 2147483647.75, 3e9, kInf, kNaN}) {
     EXPECT_NE(SumCnk(n, kLowest, kInf), 0.0) << n;
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));

@@ -1,0 +1,178 @@
+// Bits FILE...: whether the numerics give the bits of files that numerics/bits/make.py makes. Prints
+// the first rows that do not hold, and ends with status 1.
+//
+// The functions of the platform are given by this program, which the loader finds first, but for
+// macOS. They give the correctly rounded values of the file, so that its rows hold bit by bit on any
+// platform, and a call that the file does not have is a fault.
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <fstream>
+#include <functional>
+#include <iomanip>
+#include <iostream>
+#include <limits>
+#include <map>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "QUVARDBS1C.h"
+
+namespace {
+
+// Any NaN is the same as any other.
+uint64_t bitsOf(double x) {
+  return std::bit_cast<uint64_t>(x == x ? x : std::numeric_limits<double>::quiet_NaN());
+}
+
+uint64_t bitsOf(int32_t n) { return static_cast<uint32_t>(n); }
+
+void read(std::istream& row, int32_t& n) { row >> n; }
+
+void read(std::istream& row, double& x) {
+  std::string word;
+  row >> word;
+  const bool isNaN = word == "nan";
+  word.resize(16, '0');
+  x = isNaN ? std::numeric_limits<double>::quiet_NaN()
+            : std::bit_cast<double>(uint64_t{std::stoull(word, nullptr, 16)});
+}
+
+template <typename... Numbers>
+std::string shown(Numbers... numbers) {
+  std::ostringstream text;
+  [[maybe_unused]] const char* separator = "";
+  ((text << std::setprecision(17) << std::exchange(separator, ", ") << numbers), ...);
+  return text.str();
+}
+
+// What the functions of the platform give: the name of one, the bits of its arguments, its result.
+std::map<std::pair<std::string, std::vector<uint64_t>>, double> answers;
+
+// The calls in the row at hand that have no answer.
+std::string unanswered;
+
+template <typename... Arguments>
+double answer(const char* function, Arguments... arguments) {
+  const auto found = answers.find({function, {bitsOf(arguments)...}});
+  if (found != answers.end()) return found->second;
+  unanswered += std::string("\n  calls    ") + function + '(' + shown(arguments...) + ')';
+  return 0.0;
+}
+
+// Calls a routine with the arguments of a row, and tells what is wrong with the results, if anything.
+using Check = std::function<std::string(std::istream&)>;
+
+template <typename Result, typename... Parameters>
+Check of(Result (*routine)(Parameters...)) {
+  return [routine](std::istream& row) -> std::string {
+    const auto readAll = [&](auto&... numbers) { (read(row, numbers), ...); };
+    const auto showAll = [](auto... numbers) { return shown(numbers...); };
+    const auto allBits = [](auto... numbers) { return std::vector{bitsOf(numbers)...}; };
+    std::tuple<Parameters...> arguments;
+    std::apply(readAll, arguments);
+    const std::tuple results{std::apply(routine, arguments)};
+    std::tuple expected = results;
+    std::apply(readAll, expected);
+    const std::string calls = std::exchange(unanswered, "");
+    if (std::apply(allBits, results) == std::apply(allBits, expected) && calls.empty()) return "";
+    return '(' + std::apply(showAll, arguments) + ")\n  gives    " + std::apply(showAll, results) +
+           "\n  expected " + std::apply(showAll, expected) + calls;
+  };
+}
+
+// With what a call leaves in the variables.
+auto linear(double x1, double x2, double y1, double y2, double x, double y, HostBool forward) {
+  const int32_t status = LinearInterpol(x1, x2, y1, y2, &x, &y, forward);
+  return std::tuple(status, x, y);
+}
+
+auto quadratic(double x1, double x2, double x3, double y1, double y2, double y3, double x,
+               double xSecond, double y, HostBool forward) {
+  const int32_t status = QuadraticInterpol(x1, x2, x3, y1, y2, y3, &x, &xSecond, &y, forward);
+  return std::tuple(status, x, xSecond, y);
+}
+
+const std::map<std::string, Check> kRoutines{{"LinearInterpol", of(linear)},
+                                             {"QuadraticInterpol", of(quadratic)},
+                                             {"ASin", of(ASin)},
+                                             {"Cnk", of(Cnk)},
+                                             {"FSgn", of(FSgn)},
+                                             {"FSign", of(FSign)},
+                                             {"Fact", of(Fact)},
+                                             {"GammaLn", of(GammaLn)},
+                                             {"Int05", of(Int05)},
+                                             {"Int05LU", of(Int05LU)},
+                                             {"Int05c", of(Int05c)},
+                                             {"IsEven", of(IsEven)},
+                                             {"IsEvenLng", of(IsEvenLng)},
+                                             {"IsLong", of(IsLong)},
+                                             {"IsLongP", of(IsLongP)},
+                                             {"LCD", of(LCD)},
+                                             {"LCD2", of(LCD2)},
+                                             {"LCDDbl", of(LCDDbl)},
+                                             {"Log10", of(Log10)},
+                                             {"LogExpAPlusExpB", of(LogExpAPlusExpB)},
+                                             {"Max", of(Max)},
+                                             {"Min", of(Min)},
+                                             {"Mod", of(Mod)},
+                                             {"ModDbl", of(ModDbl)},
+                                             {"Pi", of(Pi)},
+                                             {"SumCnk", of(SumCnk)},
+                                             {"expm1x", of(expm1x)},
+                                             {"spow", of(spow)},
+                                             {"sqr", of(sqr)}};
+
+// Keeps a row of a function of the platform.
+void keep(const std::string& function, std::istream& row) {
+  std::vector<uint64_t> arguments;
+  double result = 0.0;
+  for (read(row, result); row.peek() == ' '; read(row, result)) arguments.push_back(bitsOf(result));
+  answers[{function, arguments}] = result;
+}
+
+// What is wrong with a file.
+std::vector<std::string> faultsIn(const char* path) {
+  std::vector<std::string> faults;
+  std::ifstream file(path);
+  std::string name;
+  int rows = 0;
+  for (std::string line; std::getline(file, line); ++rows) {
+    std::istringstream row(line);
+    const auto routine = kRoutines.find(name);
+    if (line.ends_with(':')) {
+      name = line.substr(0, line.size() - 1);
+    } else if (routine == kRoutines.end()) {
+      keep(name, row);
+    } else if (const std::string fault = routine->second(row); !fault.empty()) {
+      faults.push_back(name + fault);
+    }
+  }
+  if (rows == 0) faults.push_back(std::string("No rows in ") + path);
+  return faults;
+}
+
+}  // namespace
+
+#define OF_PLATFORM __attribute__((visibility("default"))) double
+extern "C" {
+OF_PLATFORM atan(double x) noexcept { return answer("atan", x); }
+OF_PLATFORM exp(double x) noexcept { return answer("exp", x); }
+OF_PLATFORM log(double x) noexcept { return answer("log", x); }
+OF_PLATFORM log10(double x) noexcept { return answer("log10", x); }
+OF_PLATFORM pow(double x, double y) noexcept { return answer("pow", x, y); }
+}
+
+int main(int argc, char** argv) {
+  constexpr std::size_t kShown = 10;
+  std::vector<std::string> faults;
+  for (int i = 1; i < argc; ++i) {
+    for (const std::string& fault : faultsIn(argv[i])) faults.push_back(fault);
+  }
+  for (std::size_t i = 0; i < std::min(kShown, faults.size()); ++i) std::cout << faults[i] << '\n';
+  if (faults.size() > kShown) std::cout << "and " << faults.size() - kShown << " more\n";
+  return argc > 1 && faults.empty() ? 0 : 1;
+}

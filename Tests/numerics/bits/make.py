@@ -1,0 +1,316 @@
+#!/usr/bin/env python3
+"""Works out the bits that the numerics promise.
+
+make.py FOLDER writes own.txt and platform.txt there. Each routine is run step by step as its
+contract tells, in numbers of arbitrary precision (MPFR, by gmpy2), and each step is rounded to a
+double. Nothing of the library takes part, nor do the doubles of the processor.
+
+own.txt has the routines that compute everything themselves. platform.txt has those that call the
+platform's log, exp, pow, log10 or atan. Before them it has these calls with their correctly rounded
+values: given such values, the results have the same bits everywhere too.
+
+A line with a name begins the rows of that routine. Each has the arguments, then the results, and
+for the interpolations what they leave in the variables. A double is the 16 hexadecimal digits of
+its bits, of which zeros at the end are left out. An integer is decimal.
+"""
+import itertools
+import pathlib
+import random
+import sys
+
+from gmpy2 import floor, mpfr
+
+import steps
+from steps import EXTREME, HIGHEST, INF, LOWEST, NAN, TINY, TOLERANCE, above, below, of_bits, shown
+
+# The arguments: edges first, then random ones, by bits alone, which every Python draws alike.
+
+chance = random.Random(1)
+
+
+def integer():
+    """Of either sign, small ones as often as large ones."""
+    return (chance.getrandbits(32) + LOWEST) >> chance.getrandbits(5)
+
+
+def any_double():
+    return of_bits(chance.getrandbits(64))
+
+
+def small_whole():
+    return mpfr(chance.getrandbits(3) - 4)
+
+
+def any_edge():
+    return EDGES[chance.getrandbits(20) % len(EDGES)]
+
+
+def within(low, high):
+    return lambda: mpfr(low) + (mpfr(high) - mpfr(low)) * chance.getrandbits(53) / 2**53
+
+
+def draw(count, *sources):
+    return [tuple(source() for source in sources) for _ in range(count)]
+
+
+def ones(*values):
+    return [(mpfr(v),) for v in values]
+
+
+def doubles(rows):
+    return [tuple(map(mpfr, row)) for row in rows]
+
+
+def all_pairs(values):
+    return list(itertools.product(values, values))
+
+
+def with_neighbours(*values):
+    """Of either sign."""
+    for v in map(mpfr, values):
+        for x in (v, above(v), below(v)):
+            yield from (x, -x)
+
+
+def of_both_signs(*values):
+    return [s * mpfr(v) for v in values for s in (1, -1)]
+
+
+EDGES = [
+    *(mpfr(v) for v in (0, "-0.0", NAN, INF, -INF)),
+    *of_both_signs(TINY, mpfr(2) ** -1022, "1e-300", 0.1, 1.5, 2.5, 100, 1e300, below(INF)),
+    *with_neighbours(TOLERANCE, 0.25, 0.5, 1, 2, 3, 2**31, 2**31 - 1, 2**52, 2**53, EXTREME),
+]
+FEW = [mpfr(v) for v in (0, "-0.0", 1, -1, 2, 0.5, -1.5, 3e9, 1e300, TINY, -TINY, INF, -INF, NAN)]
+INTEGERS = [0, 1, -1, 2, -2, 3, -5, 6, 7, -12, 18, 2**30, HIGHEST, -HIGHEST, LOWEST]
+FLAGS = [0, -1, 1, 0x7FFF, 0x8000, 0xFFFE, 0xFFFF, 0x10000, 0x1FFFF, LOWEST]
+
+TWO_INTEGERS = all_pairs(INTEGERS) + draw(75, integer, integer)
+
+
+def to_round():
+    yield from EDGES
+    for whole in map(mpfr, (0, 2, 15, 16, 2**31 - 2, 2**31 - 1, 2**31, 2**51)):
+        for fraction in ("0.1", 0.25, "0.2500000000009", "0.250000000001", "0.3", "0.4"):
+            yield from (whole + mpfr(fraction), -(whole + 1 - mpfr(fraction)))
+        for fraction in ("0.4999999999995", "0.4999999999985", "0.49999999999999956", 0.5):
+            yield from (whole + mpfr(fraction), -above(whole + mpfr(fraction)))
+        yield from (below(whole), -below(whole + 1))
+    yield from (x for (x,) in draw(30, within(-20, 20)))
+
+
+def roundings():
+    yield from itertools.product(to_round(), (0, -1))
+    yield from itertools.product(map(mpfr, (2.1, -2.4)), FLAGS)
+
+
+def directed_roundings():
+    yield from itertools.product(to_round(), (0, -1), (0, -1))
+    yield from itertools.product([mpfr(2.3)], FLAGS, FLAGS)
+
+
+def nearly_whole():
+    for whole in map(mpfr, (0, 1, 2, 3, 4, 1000, 2**20 + 1)):
+        for off in map(mpfr, (9e-13, 1.1e-12, 2.0**-52, 2.0**-51, 2.0**-40, 0.5)):
+            yield from (whole + off, whole - off, -(whole + off))
+
+
+def distances():
+    yield from all_pairs(FEW)
+    tolerances = [mpfr(0), *with_neighbours(0.25, 0.5), NAN, INF]
+    yield from itertools.product(map(mpfr, (2.25, -2.75, 2.5, 3)), tolerances)
+
+
+def of_wholes():
+    """The shorter side is worked out pass by pass; some results are in tables."""
+    for n in range(20):
+        yield from ((n, k) for k in range(n + 2))
+    for n in (56, 67, 68, 100, 126, 127, 128, 129, 500, 1000, 1019, 1020, 1021, 1022, 1023, 1024):
+        for k in (1, 2, 3, 4, 5, 31, 62, 63, 64, 65, 66, 127, 128, 129, 448, 449, 510, 511):
+            yield from ((n, k), (n, n - k)) if k <= n // 2 else ()
+
+
+def coefficients():
+    yield from doubles(of_wholes())
+    named = (
+        *((2147483649, 2), (2147483650, 2), (5.5, 2), (5.5, 3), (5, 2.5), (5, 1.5), (5, 0.5)),
+        *((5, 4.5), (5, -2.5), (-3, -5), (-3, -2), (5.5, 5.5), (1e11, 1e10), (5e9, -2147483648.5)),
+        *((4294967294, 2147483647), (4294967294.5, 2147483647.25), (2.0**53, 2.0**53 - 9)),
+    )
+    yield from doubles(named)
+    yield from all_pairs(FEW)
+    yield from draw(50, within(-20, 1200), within(-20, 40))
+    yield from draw(30, within(600, 1200), within(0, 600))
+    yield from ((floor(n), floor(k)) for n, k in draw(80, within(128, 1100), within(0, 700)))
+    yield from ((n, floor(k)) for n, k in draw(40, within(100, 300), within(0, 140)))
+
+
+def sums():
+    named = (
+        *((5, 0, 5), (5, 2, 3), (5, 2.7, 3.9), (5, 4, 9), (5, 3, 2), (5, -2, 1), (5, -0.5, 1)),
+        *((5, 0, NAN), (NAN, 0, 5), (5, NAN, LOWEST + 0.5), (5, -1e10, LOWEST)),
+        *((5, 1e10, LOWEST - 1), (5, HIGHEST, INF), (NAN, HIGHEST + 0.75, HIGHEST)),
+        (INF, HIGHEST - 1, 1e10),
+        *((1e300, HIGHEST - 700, INF), (2000, 0, 2000), (2000, 990, 1010), (100, 0, 100)),
+        *((1020.5, 0, 600), (-5, -60, 0), (0.3, -40, 20), (-0.5, HIGHEST - 69, INF)),
+        *((2.0**31 - 20, -60, 10), (2.0**31 + 0.25, -30, 40)),
+    )
+    yield from doubles(named)
+    for n, a, count in draw(40, within(-60, 60), within(-80, 80), within(-2, 90)):
+        yield from ((n, a, a + count), (floor(n), a, a + count), (n + 2**31, a, a + count))
+    # Long runs, whose sums are rounded to ever coarser multiples.
+    for n in (-1, 0.1, 1e-20, 1234567.890123, 1e9 + 2 / 3, 2.0**31 + 2.0**20 + 0.5, INF):
+        for first, count in draw(1, within(-(2.0**31), -1e6), within(1e4, 3e4)):
+            yield mpfr(n), first, first + count
+        yield mpfr(n), mpfr(-20000), mpfr(40)
+
+
+def remainders():
+    yield from all_pairs(FEW)
+    yield from draw(90, within(-9, 9), within(-2, 2))
+    yield from draw(30, any_double, any_double)
+
+
+def divisors():
+    yield from all_pairs(FEW)
+    yield from doubles(draw(75, integer, integer))
+    yield from draw(75, within(-3e9, 3e9), within(-99, 99))
+    # Where a double begins not to fit 32 bits.
+    yield from ((x, mpfr(HIGHEST)) for x in with_neighbours(HIGHEST, 2**31, 2**31 + 1))
+
+
+def lines():
+    """Both directions, by each flag in turn."""
+    flags = itertools.cycle((-1, 0, 0xFFFF, 1, 0x1FFFF, 0x7FFF, 0))
+    rows = draw(90, *[within(-9, 9)] * 6) + draw(40, *[small_whole] * 6) + draw(60, *[any_edge] * 6)
+    for row in rows:
+        yield *row, next(flags)
+
+
+def parabolas():
+    flags = itertools.cycle((-1, 0, 0xFFFF, 1, 0x1FFFF, 0x7FFF, 0))
+    rows = draw(90, *[within(-9, 9)] * 9) + draw(60, *[any_edge] * 9)
+    for unit in map(mpfr, ("1", "1e-160", "1e160")):
+        rows += [[x * unit for x in row] for row in draw(60, *[small_whole] * 9)]
+    for points in (
+        *((1, 2, 4, 0, 0, 6), (0, 2, 4, 2, 0, 6), (1, 0, 2, 0, 2, 0), (1, 2, 3, 3, 0, -5)),
+        *((1, 2, 3, 1, 0, 1), (1, 2, 3, 3, 5, 7), (1, 2, 3, 2, 5, 10), (1, 2, 3, 4, 4, 4)),
+        *(("0.1", "0.2", "0.3", "0.2", "0.4", "0.6"), ("1e-20", 1, 2, 2, 0, 0)),
+        ("1e-200", "2e-200", "3e-200", 1, 2, 3),
+    ):
+        rows += [map(mpfr, (*points, 5, 77, y)) for y in (6, -1, 0, -0.25)]
+    for row in map(tuple, rows):
+        flag = next(flags)
+        yield from ((*row, flag), (*row, ~flag))
+
+
+def exponents():
+    yield from EDGES
+    yield from with_neighbours("1e-6", 709, 708, 40)
+    yield from map(mpfr, (-750, -745.5, -1074.5))
+    yield from of_both_signs(*(mpfr(2) ** e for e in range(-70, 10, 4)))
+    yield from of_both_signs(*(mpfr(10) ** e for (e,) in draw(30, within(-9, 2.8))))
+
+
+def sines():
+    yield from EDGES
+    yield from of_both_signs(*(1 - mpfr(2) ** e for e in range(-53, 0, 4)))
+    yield from (x for (x,) in draw(60, within(-1.1, 1.1)))
+
+
+def logarithms():
+    named = ((1, 2), (2, 1), (1000, 1000), (-1000, -1000), (1000, 0), (-800, -801), (0, -30))
+    yield from doubles(named)
+    yield from all_pairs(FEW)
+    yield from draw(60, within(-40, 40), within(-40, 40))
+    yield from draw(30, within(-1e6, 1e6), within(-1e6, 1e6))
+
+
+def of_gamma():
+    yield from EDGES
+    yield from with_neighbours(6.5, 6, 4, 1e-15, 4.5e-16)
+    yield from map(mpfr, (*(i / 4 for i in range(-28, 45)), 100, 2.5e305, 2.56e305, 2.6e305))
+    for count, low, high in ((50, -6.6, 10), (50, 0, 300)):
+        yield from (x for (x,) in draw(count, within(low, high)))
+    yield from (mpfr(10) ** e for (e,) in draw(50, within(-16, 306)))
+
+
+def decimals():
+    named = (
+        *(("0.5", "0.75"), (6, 4), (2.5, 7.5), ("0.1", 0.25), ("0.001", "0.0025"), ("-0.5", 0.75)),
+        *(("1.2", "0.3"), ("1e-13", 1), ("1e-12", 1), ("1.1e-12", 1), ("1000000000.5", 1)),
+        *(("0.29", "0.29"), ("0.29", 1), ("4.35", "1.45"), ("0.57", 1), ("123456.789", "0.001")),
+        *((2.0**47 + 0.5, 3), (0, 2.0**51 + 1.5)),
+    )
+    yield from doubles(named)
+    yield from all_pairs(FEW)
+    for scale in (mpfr(10) ** places for places in range(10)):
+        yield from ((a / scale, b / scale) for a, b in draw(9, integer, integer))
+    yield from draw(30, within(-9, 9), within(-9, 9))
+    yield from draw(20, within(0, 1e-9), small_whole)
+    yield from draw(20, within(-1e15, 1e16), within(-1e4, 1e4))
+
+
+def powers():
+    yield from all_pairs(FEW)
+    yield from doubles(((2, 10), (10, -1), (-2, 3), (10, 308.5), (10, -330)))
+    yield from draw(40, within(0, 30), within(-20, 20))
+
+
+OWN = {
+    "Pi": (lambda: of_bits(0x400921FB54442D11), [()]),
+    "sqr": (steps.root, ones(*EDGES) + draw(60, any_double)),
+    "Min": (steps.minimum, all_pairs(FEW)),
+    "Max": (steps.maximum, all_pairs(FEW)),
+    "FSgn": (steps.sign, ones(*EDGES)),
+    "FSign": (steps.with_sign, all_pairs(FEW)),
+    "Fact": (steps.factorial, [(n,) for n in (LOWEST, HIGHEST, *range(-2, 180))]),
+    "Cnk": (steps.coefficient, coefficients()),
+    "SumCnk": (steps.coefficient_sum, sums()),
+    "Mod": (steps.remainder, TWO_INTEGERS),
+    "ModDbl": (steps.remainder_of_doubles, remainders()),
+    "LCD": (steps.divisor, TWO_INTEGERS),
+    "LCD2": (steps.divisor_of_doubles, divisors()),
+    "IsLong": (steps.is_long, ones(*EDGES, *nearly_whole())),
+    "IsLongP": (steps.is_long_within, distances()),
+    "IsEven": (steps.is_even, ones(*EDGES, *nearly_whole())),
+    "IsEvenLng": (steps.is_even_integer, [(n,) for n in INTEGERS]),
+    "Int05": (steps.away_from_zero, roundings()),
+    "Int05c": (steps.to_closest, roundings()),
+    "Int05LU": (steps.down_or_up, directed_roundings()),
+    "LinearInterpol": (steps.linear, lines()),
+    "QuadraticInterpol": (steps.quadratic, parabolas()),
+}
+PLATFORM = {
+    "Log10": (lambda x: steps.call("log10", x), ones(*EDGES, 1000) + draw(40, any_double)),
+    "spow": (lambda x, y: steps.call("pow", x, y), powers()),
+    "expm1x": (steps.exp_minus_one, ones(*exponents())),
+    "ASin": (steps.arcsine, ones(*sines())),
+    "LogExpAPlusExpB": (steps.log_of_sum, logarithms()),
+    "GammaLn": (steps.log_gamma, ones(*of_gamma())),
+    "LCDDbl": (steps.divisor_of_decimals, decimals()),
+}
+
+
+def lines_of(routines):
+    for name, (routine, rows) in routines.items():
+        yield name + ":"
+        for arguments in rows:
+            results = routine(*arguments)
+            results = results if isinstance(results, tuple) else (results,)
+            yield " ".join(map(shown, (*arguments, *results)))
+
+
+def lines_of_calls():
+    for name, made in steps.calls.items():
+        yield name + ":"
+        for arguments, result in made.values():
+            yield " ".join(map(shown, (*arguments, result)))
+
+
+if len(sys.argv) != 2:
+    sys.exit(__doc__)
+folder = pathlib.Path(sys.argv[1])
+own, platform = list(lines_of(OWN)), list(lines_of(PLATFORM))
+for file, lines in (("own.txt", own), ("platform.txt", [*lines_of_calls(), *platform])):
+    (folder / file).write_text("".join(line + "\n" for line in lines), "ascii")
