@@ -76,6 +76,15 @@ bits_needs=(
 )
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
+  absl/algorithm/container.h:libabsl-dev:abseil
+  boost/algorithm/string.hpp:libboost-dev:boost
+  gsl/gsl_sf.h:libgsl-dev:gsl
+  unicode/unistr.h:libicu-dev:icu4c
+)
+report_needs=(
+  python3:python3:python
+)
+accuracy_needs=(
   mpfr.h:libmpfr-dev:mpfr
 )
 package_needs=(
@@ -200,7 +209,7 @@ has() {
   if [ "${1##*:}" = xcode ] && on_macos; then xcode-select -p >/dev/null 2>&1 || return 1; fi
   case $need in
     cmake) has_cmake ;;
-    *.h) has_header "$need" ;;
+    *.h | *.hpp) has_header "$need" ;;
     python3-*) /usr/bin/python3 -c "import ${need#python3-}" 2>/dev/null ;;
     *) command -v "$need" >/dev/null ;;
   esac
