@@ -62,7 +62,7 @@ inline void expectTable(const std::string& page, const Cells& titles,
   lines.resize(std::max(lines.size(), expected.size()), "(no row)");
   expected.resize(lines.size(), "(no row)");
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    if (lines[i] == expected[i]) continue;
+    if (lines[i] == expected[i] || hasToldEnough()) continue;
     ADD_FAILURE() << "docs/" << page << ":   " << lines[i] << "\nthe library: " << expected[i];
   }
 }

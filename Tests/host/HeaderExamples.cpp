@@ -1,7 +1,5 @@
 // The examples of the chief header, taken from its text when the tests are built.
-#include <gtest/gtest.h>
-
-#include "support/HostStrings.h"
+#include "support/Expectations.h"
 
 TEST(HeaderExamples, Hold) {
   int32_t i, j;

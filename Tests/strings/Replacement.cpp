@@ -69,10 +69,10 @@ TEST(Replacement, OneForOneWritesOnlyWhatChanges) {
   // A text in memory that cannot be written stays whole where nothing is to be replaced.
   static const char16_t kFixed[] =
       u"a text that does not hold the unit and is longer than one block of them";
-  EXPECT_EQ(VB_Replace(const_cast<BSTR>(kFixed), B(u"#"), B(u"x")), B(kFixed));
+  EXPECT_EQ(taken(VB_Replace(const_cast<BSTR>(kFixed), B(u"#"), B(u"x"))), widened(kFixed));
   // What stands behind the end of a text stays too.
   std::u16string units(300, u'-');
   units[200] = 0;
-  EXPECT_EQ(VB_Replace(units.data(), B(u"-"), B(u"+")), B(Text(200, L'+')));
+  EXPECT_EQ(taken(VB_Replace(units.data(), B(u"-"), B(u"+"))), Text(200, L'+'));
   EXPECT_EQ(units.substr(201), std::u16string(99, u'-'));
 }

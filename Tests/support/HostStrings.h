@@ -48,6 +48,4 @@ inline Text taken(BSTR result) {
   return widened(result);
 }
 
-inline bool operator==(BSTR result, const B& expected) { return taken(result) == expected.text(); }
-
 #endif
