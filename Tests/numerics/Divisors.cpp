@@ -8,9 +8,9 @@ namespace {
 // Euclid's algorithm step by step, with the floored remainder.
 double stepwiseLCD2(double a, double b) {
   while (b != 0.0) {
-    const int32_t r = Mod(truncated(a), truncated(b));
+    const double whole = truncated(a), by = truncated(b);
     a = b;
-    b = r;
+    b = by == 0.0 ? whole : whole - std::floor(whole / by) * by;
   }
   return std::fabs(a);
 }
