@@ -388,8 +388,8 @@ QUVARDBS1C_API std::wstring Replace(std::wstring text, const wchar_t* pattern,
 /// @p text with every occurrence of @p pattern replaced.
 ///
 /// With a pattern and a replacement of exactly one unit each, **the units of `text` itself are
-/// changed** too, and must not be in use on another thread; this is the one routine that writes to
-/// an argument.
+/// changed** too, also if there is no memory for the result, and must not be in use on another thread;
+/// this is the one routine that writes to an argument.
 ///
 /// @param text         host string
 /// @param pattern      what to look for; null: nothing is done, and @p text itself is the result
