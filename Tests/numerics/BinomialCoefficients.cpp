@@ -2,25 +2,11 @@
 
 #include "support/Expectations.h"
 #include "support/Random.h"
+#include "support/Stepwise.h"
 
 namespace {
 
-// The steps one by one, with every pass.
-double stepwise(double n, double k) {
-  if (k > n) return 0.0;
-  if (k == n || k == 0.0) return 1.0;
-  int32_t m = truncated(n - k);
-  double q = k;
-  if (m > k) {
-    m = truncated(k);
-    q = n - m;
-  }
-  double r = 1.0 + q;
-  for (int32_t i = 2; i <= m; ++i) r = ((q + i) * r) / i;
-  return r;
-}
-
-void expectCnk(double n, double k) { expectSame("Cnk", Cnk, stepwise, n, k); }
+void expectCnk(double n, double k) { expectSame("Cnk", Cnk, stepwise::Cnk, n, k); }
 
 TEST(BinomialCoefficients, AsStepwise) {
   for (int n = 0; n <= 1100; n += n < 130 ? 1 : 9) {

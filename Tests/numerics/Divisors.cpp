@@ -2,24 +2,13 @@
 
 #include "support/Random.h"
 #include "support/SmallScopes.h"
+#include "support/Stepwise.h"
 
 namespace {
 
-// Euclid's algorithm step by step, with the floored remainder.
-double stepwiseLCD2(double a, double b) {
-  while (b != 0.0) {
-    const double whole = truncated(a), by = truncated(b);
-    a = b;
-    b = by == 0.0 ? whole : whole - std::floor(whole / by) * by;
-  }
-  return std::fabs(a);
-}
-
-int32_t stepwiseLCD(int32_t a, int32_t b) { return truncated(stepwiseLCD2(a, b)); }
-
 TEST(Divisors, OfIntegersNearTheLimits) {
   const auto integers = integersNear(40, {-65536, 65536});
-  forEach([](int32_t a, int32_t b) { expectSame("LCD", LCD, stepwiseLCD, a, b); }, integers,
+  forEach([](int32_t a, int32_t b) { expectSame("LCD", LCD, stepwise::LCD, a, b); }, integers,
           integers);
 }
 
@@ -28,9 +17,9 @@ TEST(Divisors, AsStepwise) {
   for (int i = 0; i < 20000 && !HasFailure(); ++i) {
     const double edge = random.edge(), other = random.edge();
     const double large = random.between(-3e9, 3e9), small = random.between(-9.0, 9.0);
-    expectSame("LCD2", LCD2, stepwiseLCD2, large, edge);
-    expectSame("LCD2", LCD2, stepwiseLCD2, edge, small);
-    expectSame("LCD2", LCD2, stepwiseLCD2, edge, other);
+    expectSame("LCD2", LCD2, stepwise::LCD2, large, edge);
+    expectSame("LCD2", LCD2, stepwise::LCD2, edge, small);
+    expectSame("LCD2", LCD2, stepwise::LCD2, edge, other);
   }
 }
 

@@ -1,24 +1,10 @@
 #include "support/Random.h"
 #include "support/SmallScopes.h"
-
-namespace {
-
-// The removal as it is told: search from the start, take one unit out, search again.
-Text removedStepwise(Text s, const Text& chars) {
-  for (std::size_t at; !chars.empty() && (at = s.find(chars)) != s.npos;) s.erase(at, 1);
-  return s;
-}
-
-Text without(Text s, wchar_t removed) {
-  std::erase(s, removed);
-  return s;
-}
-
-}  // namespace
+#include "support/Stepwise.h"
 
 TEST(Removal, CharOfEveryShortText) {
   forEach([](const Text& chars,
-             const Text& s) { EXPECT_GIVES(RemoveChar, removedStepwise(s, chars), s, chars); },
+             const Text& s) { EXPECT_GIVES(RemoveChar, stepwise::RemoveChar(s, chars), s, chars); },
           textsUpTo(6), textsUpTo(11));
 }
 
@@ -31,7 +17,7 @@ TEST(Removal, CharOfLongerTexts) {
     while (chars.size() < 18) chars += word;
     for (int k = 0; k < 4; ++k) s += random.text(L"ab", 3) + chars.substr(random.below(18));
     s += chars + word + chars;
-    ASSERT_GIVES(RemoveChar, removedStepwise(s, chars), s, chars);
+    ASSERT_GIVES(RemoveChar, stepwise::RemoveChar(s, chars), s, chars);
   }
 }
 
@@ -50,10 +36,10 @@ TEST(Removal, CharIsOnePass) {
 
 TEST(Removal, ColonsAndSemicolons) {
   for (const Text& s : textsUpTo(6, L" :;a"s + L'\0')) {
-    ASSERT_GIVES(RemoveColon, StrLRTrim(without(s, L':')), s);
-    ASSERT_GIVES(RemoveSemicolon, StrLRTrim(without(s, L';')), s);
+    ASSERT_GIVES(RemoveColon, stepwise::RemoveColon(s), s);
+    ASSERT_GIVES(RemoveSemicolon, stepwise::RemoveSemicolon(s), s);
     if (s.find(L'\0') != s.npos) continue;
-    ASSERT_GIVES(VB_RemoveColon, without(s, L':'), s);
+    ASSERT_GIVES(VB_RemoveColon, stepwise::VB_RemoveColon(s), s);
   }
   EXPECT_GIVES(VB_RemoveColon, kNullHandle, nullptr);
 }

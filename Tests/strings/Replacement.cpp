@@ -1,11 +1,11 @@
-#include "support/HostRoutines.h"
 #include "support/Random.h"
 #include "support/SmallScopes.h"
+#include "support/Stepwise.h"
 
 namespace {
 
 void expectReplaced(const Text& pattern, const Text& with, const Text& text) {
-  const Text expected = replacedStepwise(text, pattern, with);
+  const Text expected = stepwise::Replace(text, pattern, with);
   EXPECT_GIVES(Replace, expected, text, pattern, with);
   EXPECT_GIVES(Replace, expected, text, pattern.c_str(), with.c_str());
   const B handle(text);
@@ -20,9 +20,8 @@ void expectReplaced(const Text& pattern, const Text& with, const Text& text) {
 
 void expectReplacedTwice(const Text& pattern1, const Text& with1, const Text& pattern2,
                          const Text& with2, const Text& text) {
-  const Text first = replacedStepwise(text, pattern1, with1);
-  EXPECT_GIVES(VB_Replace2, replacedStepwise(first, pattern2, with2), text, pattern1, with1,
-               pattern2, with2);
+  EXPECT_GIVES(VB_Replace2, stepwise::VB_Replace2(text, pattern1, with1, pattern2, with2), text,
+               pattern1, with1, pattern2, with2);
 }
 
 }  // namespace

@@ -1,18 +1,6 @@
 #include "support/Random.h"
 #include "support/SmallScopes.h"
-
-namespace {
-
-int32_t countStepwise(const Text& text, const Text& pattern) {
-  int32_t count = 0;
-  for (std::size_t at = 0; !pattern.empty() && (at = text.find(pattern, at)) != text.npos;
-       at += pattern.size()) {
-    ++count;
-  }
-  return count;
-}
-
-}  // namespace
+#include "support/Stepwise.h"
 
 TEST(Search, CommonCharOfEveryShortText) {
   // Units that agree in their low 16 bits, a negative one among them; alone, among more than a few
@@ -22,7 +10,7 @@ TEST(Search, CommonCharOfEveryShortText) {
   forEach(
       [](const Text& more, const Text& few, const Text& text) {
         const Text chars = few + more;
-        const HostBool common = text.find_first_of(chars) != text.npos ? -1 : 0;
+        const HostBool common = stepwise::CommonChar(text, chars);
         EXPECT_GIVES(CommonChar, common, text, chars);
         EXPECT_GIVES(CommonChar, common, chars, text);
       },
@@ -32,7 +20,7 @@ TEST(Search, CommonCharOfEveryShortText) {
 TEST(Search, CountInEveryShortText) {
   forEach(
       [](const Text& pattern, const Text& text) {
-        EXPECT_GIVES(cChrCount, countStepwise(text, pattern), text, pattern);
+        EXPECT_GIVES(cChrCount, stepwise::cChrCount(text, pattern), text, pattern);
       },
       textsUpTo(5), textsUpTo(9));
 }
@@ -42,7 +30,7 @@ TEST(Search, CountInLongerTexts) {
   for (int i = 0; i < 4000; ++i) {
     const Text pattern = random.text(L"ab", 20);
     const Text text = random.text(L"ab", 60) + pattern + L"a" + pattern + random.text(L"ab", 60);
-    ASSERT_GIVES(cChrCount, countStepwise(text, pattern), text, pattern);
+    ASSERT_GIVES(cChrCount, stepwise::cChrCount(text, pattern), text, pattern);
   }
   EXPECT_GIVES(cChrCount, 0x18001, Text(0x18001, L'a'), L"a");
 }

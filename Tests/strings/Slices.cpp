@@ -1,17 +1,12 @@
 #include "support/SmallScopes.h"
+#include "support/Stepwise.h"
 
 TEST(Slices, AtEveryPairOfPositions) {
   const std::vector<Text> texts{L"", L"a", L"ab", L"abcdefghi"};
   forEach(
       [](const Text& text, int32_t from, int32_t to) {
-        Text including, between;
-        const bool isWithin = from >= 1 && to >= 0 && static_cast<std::size_t>(to) <= text.size();
-        for (int32_t at = from; isWithin && at <= to; ++at) {
-          including += text[static_cast<std::size_t>(at) - 1];
-          if (at > from && at < to) between += including.back();
-        }
-        EXPECT_GIVES(StrFromTo, including, text, from, to);
-        EXPECT_GIVES(StrBetween, between, text, from, to);
+        EXPECT_GIVES(StrFromTo, stepwise::StrFromTo(text, from, to), text, from, to);
+        EXPECT_GIVES(StrBetween, stepwise::StrBetween(text, from, to), text, from, to);
       },
       texts, integersNear(11), integersNear(11));
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/Expectations.h"
+#include "support/Stepwise.h"
 
 using Texts = std::vector<Text>;
 using Handles = const BSTR*;
@@ -72,28 +73,22 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide
           [=](const Texts& t) { return textOf(called(wide, t)); }};
 }
 
-inline Text replacedStepwise(Text text, const Text& pattern, const Text& replacement) {
-  if (pattern.empty()) return text;
-  for (std::size_t at = 0; (at = text.find(pattern, at)) != text.npos; at += replacement.size()) {
-    text = text.substr(0, at) + replacement + text.substr(at + pattern.size());
-  }
-  return text;
-}
+// The numbers that the routines are given beside their strings.
+struct Numbers {
+  int32_t from = 1, to = 3, decimals = 9;
+  HostBool flag1 = 0, flag2 = -1, flag3 = 1;
+  double value = 1e6 + 0.5;
+};
+inline const Numbers kUsualNumbers;
 
-inline std::vector<HostRoutine> hostRoutines() {
-  const auto fromChrToChr = [](Text text, Text opening, Text closing) {
-    const std::size_t first = text.find(opening), last = text.find(closing);
-    const bool units = opening.empty() || closing.empty() || opening.size() * closing.size() == 1;
-    return units && first <= last && last != text.npos ? text.substr(first, last - first + 1) : L"";
-  };
-  const auto replacedTwice = [](Text text, Text sought1, Text with1, Text sought2, Text with2) {
-    return replacedStepwise(replacedStepwise(text, sought1, with1), sought2, with2);
-  };
+// The numbers are those at the time of a call.
+inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumbers) {
+  const auto from = std::cref(numbers.from), to = std::cref(numbers.to);
+  const auto decimals = std::cref(numbers.decimals);
+  const auto flag1 = std::cref(numbers.flag1), flag2 = std::cref(numbers.flag2);
+  const auto flag3 = std::cref(numbers.flag3);
+  const auto value = std::cref(numbers.value);
   const auto localAN = [](Text a, Text b, Text c) { return LocalAN(a, b, c, -1, 0, 0); };
-  const auto slice = [](Text text, int, int) { return text.substr(0, 1); };
-  const auto between = [](Text t, int, int) { return t.size() < 3 ? L""s : t.substr(1, 1); };
-  const auto noColon = [](Text text) { return RemoveChar(text, L":"); };
-  const auto inBrackets = [](Text text) { return L"[" + text + L"]"; };
   // Where VB_Replace gives its argument itself, which is not to be released, the null handle.
   const auto replacedOrNull = +[](BSTR text, BSTR pattern, BSTR replacement) -> BSTR {
     const BSTR result = VB_Replace(text, pattern, replacement);
@@ -104,11 +99,12 @@ inline std::vector<HostRoutine> hostRoutines() {
     SwapStr(&first, &second);
     return first == b && second == a ? -1 : 0;
   };
-  const auto firstFormat = +[](std::int32_t digits) -> BSTR {
+  const auto setFormat = +[](std::int32_t digits) -> BSTR {
     BSTR formats[1] = {};
-    VB_SetFormat(formats, 1, digits, -1);
+    VB_SetFormat(formats, 1, 0, digits);
     return formats[0];
   };
+  const auto formatOf = [](int32_t digits) { return DecimalFormat(digits < 1 ? 0 : digits - 1); };
 
   std::vector<HostRoutine> all;
   const auto add = [&all](const Path& path, std::vector<HostRoutine> routines) {
@@ -117,28 +113,28 @@ inline std::vector<HostRoutine> hostRoutines() {
   };
 #define ROUTINE(host, ...) routineOf(#host, host, __VA_ARGS__)
   add(kBuffer,
-      {ROUTINE(VB_StrLeft, StrLeft, 1), ROUTINE(VB_StrRight, StrRight, 1),
+      {ROUTINE(VB_StrLeft, StrLeft, from), ROUTINE(VB_StrRight, StrRight, from),
        ROUTINE(VB_StrConcat, StrConcat), ROUTINE(VB_StrLTrim, StrLTrim),
        ROUTINE(VB_StrRTrim, StrRTrim), ROUTINE(VB_StrLRTrim, StrLRTrim),
        ROUTINE(VB_RemoveChar, RemoveChar), ROUTINE(VB_RemoveNonNumericChar, RemoveNonNumericChar),
-       ROUTINE(StrFromTo, slice, 1, 1), ROUTINE(StrBetween, between, 1, 3),
-       ROUTINE(StrFromChrToChr, fromChrToChr)});
-  add(kBuffer,
-      {ROUTINE(VB_LocalAN, localAN), ROUTINE(VB_LocalAN2, LocalAN, 0, -1, 1),
-       ROUTINE(VB_LowerFirst, LowerFirst, 0), ROUTINE(VB_UpperFirst, UpperFirst),
-       ROUTINE(VB_PStrP, PStrP), ROUTINE(VB_BStrB, inBrackets),
-       ROUTINE(VB_QUVARDHTMLProcessor, QUVARDHTMLProcessor),
-       ROUTINE(Cpp_DecimalFormat, DecimalFormat, 9), ROUTINE(VB_OutputFormat, OutputFormat, 0.25),
-       ROUTINE(VB_OptimalFormat, OptimalFormat, 1e6 + 0.5, 4, -1, -1),
-       routineOf(
-           "VB_SetFormat", firstFormat, [](int digits) { return DecimalFormat(digits - 1); }, 5)});
+       ROUTINE(StrFromTo, stepwise::StrFromTo, from, to),
+       ROUTINE(StrBetween, stepwise::StrBetween, from, to),
+       ROUTINE(StrFromChrToChr, stepwise::StrFromChrToChr)});
+  add(kBuffer, {ROUTINE(VB_LocalAN, localAN), ROUTINE(VB_LocalAN2, LocalAN, flag1, flag2, flag3),
+                ROUTINE(VB_LowerFirst, LowerFirst, flag1), ROUTINE(VB_UpperFirst, UpperFirst),
+                ROUTINE(VB_PStrP, PStrP), ROUTINE(VB_BStrB, stepwise::VB_BStrB),
+                ROUTINE(VB_QUVARDHTMLProcessor, QUVARDHTMLProcessor),
+                ROUTINE(Cpp_DecimalFormat, DecimalFormat, decimals),
+                ROUTINE(VB_OutputFormat, OutputFormat, value),
+                ROUTINE(VB_OptimalFormat, OptimalFormat, value, decimals, flag2, flag3),
+                routineOf("VB_SetFormat", setFormat, formatOf, decimals)});
   add(kToNumber, {ROUTINE(VB_CommonChar, CommonChar)});
   add(kToNumberOrNull, {ROUTINE(ChrCount, cChrCount)});
-  add(kBufferAndUnits, {ROUTINE(VB_Replace2, replacedTwice)});
-  add(kUnitsOrNull, {ROUTINE(VB_RemoveColon, noColon)});
-  add(kReplace, {routineOf("VB_Replace", replacedOrNull, replacedStepwise)});
+  add(kBufferAndUnits, {ROUTINE(VB_Replace2, stepwise::VB_Replace2)});
+  add(kUnitsOrNull, {ROUTINE(VB_RemoveColon, stepwise::VB_RemoveColon)});
+  add(kReplace, {routineOf("VB_Replace", replacedOrNull, stepwise::Replace)});
   add(kObject, {ROUTINE(StrBetweenChrAndChr, cStrBetweenChrAndChr), ROUTINE(VB_SpStrSp, SpStrSp)});
-  add(kCopy, {ROUTINE(VB_SingPlural, SingPlural, 2)});
+  add(kCopy, {ROUTINE(VB_SingPlural, SingPlural, to)});
   add(kToWideText, {ROUTINE(convToWstring, [](Text text) { return text; })});
   add(kHandlesAlone, {routineOf("SwapStr", areSwapped, [](Text, Text) { return -1; })});
 #undef ROUTINE

@@ -1,23 +1,31 @@
-// Random arguments. Each test has an engine of its own, the same in every run.
+// Random arguments. Each test has an engine of its own, the same in every run; a fuzz target draws
+// from its input instead.
 #ifndef TESTS_SUPPORT_RANDOM_H
 #define TESTS_SUPPORT_RANDOM_H
 
 #include <bit>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <random>
 #include <string>
+#include <utility>
 
 class Random {
  public:
-  std::size_t below(std::size_t limit) { return bits_() % limit; }
+  Random() : Random([engine = std::mt19937_64(20240607)](int) mutable { return engine(); }) {}
+
+  // The source is told how many bits are needed at most.
+  explicit Random(std::function<uint64_t(int)> source) : source_(std::move(source)) {}
+
+  std::size_t below(std::size_t limit) { return source_(limit <= 0x100 ? 8 : 64) % limit; }
 
   double between(double low, double high) {
-    return low + (high - low) * (static_cast<double>(bits_() >> 11) * 0x1p-53);
+    return low + (high - low) * (static_cast<double>(source_(64) >> 11) * 0x1p-53);
   }
 
   // Any integer, small ones as often as large ones.
-  int32_t integer() { return static_cast<int32_t>(bits_()) >> below(32); }
+  int32_t integer() { return static_cast<int32_t>(source_(32)) >> below(32); }
 
   // A text over a small alphabet, where patterns occur, overlap and come together.
   std::wstring text(const std::wstring& alphabet, std::size_t longest) {
@@ -54,7 +62,7 @@ class Random {
                                  kInfinity,
                                  std::numeric_limits<double>::quiet_NaN()};
     const std::size_t choice = below(std::size(kEdges) + 4);
-    double x = choice < std::size(kEdges) ? kEdges[choice] : std::bit_cast<double>(bits_());
+    double x = choice < std::size(kEdges) ? kEdges[choice] : std::bit_cast<double>(source_(64));
     const std::size_t shift = below(9);
     if (shift == 1) x = std::nextafter(x, kInfinity);
     if (shift == 2) x = std::nextafter(x, -kInfinity);
@@ -63,7 +71,7 @@ class Random {
   }
 
  private:
-  std::mt19937_64 bits_{20240607};
+  std::function<uint64_t(int)> source_;
 };
 
 #endif
