@@ -21,8 +21,8 @@ jobs=$(getconf _NPROCESSORS_ONLN)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$jobs}"
 export CTEST_PARALLEL_LEVEL="${CTEST_PARALLEL_LEVEL:-$jobs}"
 
-# What a script needs: a command or a header, its Debian package, and its Homebrew formula or
-# "xcode" for what comes with Apple's command line tools.
+# What a script needs: a command, a header or a file of Debian, its Debian package, and its Homebrew
+# formula or "xcode" for what comes with Apple's command line tools.
 build_needs=(
   c++:g++:xcode
   make:make:xcode
@@ -32,6 +32,7 @@ test_needs=(
   "${build_needs[@]}"
   gtest/gtest.h:libgtest-dev:googletest
   pkg-config:pkg-config:pkgconf
+  /usr/share/i18n/locales/tr_TR:locales:
 )
 # What each lane of scripts/check needs beside these.
 compiler_needs=(
@@ -209,6 +210,7 @@ has() {
   if [ "${1##*:}" = xcode ] && on_macos; then xcode-select -p >/dev/null 2>&1 || return 1; fi
   case $need in
     cmake) has_cmake ;;
+    /*) [ -e "$need" ] || ! command -v apt-get >/dev/null ;;
     *.h | *.hpp) has_header "$need" ;;
     python3-*) /usr/bin/python3 -c "import ${need#python3-}" 2>/dev/null ;;
     *) command -v "$need" >/dev/null ;;

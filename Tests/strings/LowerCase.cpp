@@ -1,5 +1,7 @@
 #include <clocale>
+#include <cstdlib>
 
+#include "TestPaths.h"
 #include "support/Expectations.h"
 
 TEST(LowerCase, DefaultLocaleChangesAToZAlone) {
@@ -16,13 +18,38 @@ TEST(LowerCase, ValuesThatAreNoCharacterStay) {
   }
 }
 
+namespace {
+
+// Sets a locale that is made of the sources of the C library; false where it cannot be made.
+bool setLocale(const char* name) {
+  setenv("LOCPATH", QUVARD_LOCALES, 1);
+  setenv("NAME", name, 1);
+  const int status = std::system(
+      "[ -e \"$LOCPATH/$NAME\" ] || { mkdir -p \"$LOCPATH\" &&"
+      "  localedef -i \"${NAME%.UTF-8}\" -f UTF-8 \"$LOCPATH/$NAME\"; } 2>/dev/null");
+  return status == 0 && std::setlocale(LC_CTYPE, name) != nullptr;
+}
+
+}  // namespace
+
 TEST(LowerCase, FollowsTheLocaleOfTheProcess) {
-  // Of these, macOS has the second alone.
-  if (std::setlocale(LC_CTYPE, "C.UTF-8") == nullptr &&
-      std::setlocale(LC_CTYPE, "en_US.UTF-8") == nullptr) {
-    GTEST_SKIP() << "no UTF-8 locale here";
+  // What I, i and L with a stroke become.
+  for (const auto& [name, i, I, stroke] :
+       {row("C", L"i"s, L"I"s, L"\x141"s), row("C.UTF-8", L"i"s, L"I"s, L"\x142"s),
+        row("tr_TR.UTF-8", L"\x131"s, L"\x130"s, L"\x142"s)}) {
+    SCOPED_TRACE(name);
+    if (name != "C"s && !setLocale(name)) {
+      GTEST_SKIP() << "cannot make the locale " << name
+                   << ": install the package locales of Debian";
+    }
+    EXPECT_GIVES(StrLCase, L"a" + i + stroke + L"\x10FFFF", L"AI\x141\x10FFFF");
+    EXPECT_GIVES(LowerFirst, i + L"I", L"II", L"US", 0);
+    EXPECT_GIVES(VB_LowerFirst, i + L"I", L"II", L"US", 0);
+    EXPECT_GIVES(UpperFirst, I + L"i", L"ii");
+    EXPECT_GIVES(VB_UpperFirst, I + L"i", L"ii");
+    EXPECT_GIVES(LocalAN, I + L" " + i, L"i", L"I", L"US", -1, 0, 0);
+    EXPECT_GIVES(LocalAN, i + L" i", L"i", L"I", L"ES", 0, -1, 0);
+    EXPECT_GIVES(VB_LocalAN, I + L" " + i, L"i", L"I", L"US");
   }
-  EXPECT_GIVES(StrLCase, L"\x0142\x00E9\x10FFFF", L"\x0141\x00C9\x10FFFF");
-  EXPECT_GIVES(UpperFirst, L"\x0141", L"\x0142");
   std::setlocale(LC_CTYPE, "C");
 }
