@@ -32,10 +32,14 @@ class Replaced {
 
   // May write over the text unless it may grow.
   wchar_t* write(wchar_t* out) const {
-    const bool isOver = static_cast<const void*>(out) == text_.data();
+    const wchar_t* const start = out;
+    const bool isOver = static_cast<const void*>(start) == text_.data();
     std::size_t from = 0;
     search_.forEach(text_, [&](std::size_t at) {
-      out = isOver ? copyUnits(text_.substr(from, at - from), out) : copyGap(from, at, out);
+      // Over the text, a block is free once so many units have been left out.
+      const std::size_t written = static_cast<std::size_t>(out - start);
+      const bool isFree = !isOver || from - written >= kBlockUnits;
+      out = isFree ? copyGap(from, at, out) : copyUnits(text_.substr(from, at - from), out);
       for (const Unit unit : replacement_) *out++ = static_cast<wchar_t>(unit);
       from = at + pattern_.size();
     });

@@ -2,21 +2,31 @@
 #include <string_view>
 
 #include "host/Boundary.h"
+#include "strings/UnitBlocks.h"
 #include "strings/WideForm.h"
 
 using quvard::cutTo;
+using quvard::kMatchedUnits;
 using quvard::viaBuffer;
 
 namespace {
 
 constexpr wchar_t kBlank = L' ';
 
+bool isBlank(std::wstring_view stretch) { return ~quvard::matches(stretch, kBlank) == 0; }
+
 std::wstring_view trimLeft(std::wstring_view s) {
+  while (s.size() >= kMatchedUnits && isBlank(s.substr(0, kMatchedUnits))) {
+    s.remove_prefix(kMatchedUnits);
+  }
   return s.substr(std::min(s.find_first_not_of(kBlank), s.size()));
 }
 
 // find_last_not_of gives npos for a text of blanks, and npos + 1 is 0.
 std::wstring_view trimRight(std::wstring_view s) {
+  while (s.size() >= kMatchedUnits && isBlank(s.substr(s.size() - kMatchedUnits))) {
+    s.remove_suffix(kMatchedUnits);
+  }
   return s.substr(0, s.find_last_not_of(kBlank) + 1);
 }
 
