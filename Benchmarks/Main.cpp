@@ -124,28 +124,27 @@ void registerJob(const Job& job, Progress& progress, bool once) {
   progress.expect(job.contestants.size());
 }
 
-int run(std::vector<std::string> arguments) {
-  addShortJobs();
-  addLongJobs();
-  addWideJobs();
-  addNumericJobs();
-  addGrowthJobs();
+const std::pair<std::string, void (*)()> kGroups[] = {{"short", addShortJobs},
+                                                      {"long", addLongJobs},
+                                                      {"wide", addWideJobs},
+                                                      {"numerics", addNumericJobs},
+                                                      {"growth", addGrowthJobs}};
 
+int run(std::vector<std::string> arguments) {
   const bool once = std::erase(arguments, "--once") > 0;
-  std::set<std::string> groups;
-  for (const Job& job : jobs()) groups.insert(job.group);
-  for (const std::string& group : arguments) {
-    if (groups.contains(group)) continue;
-    std::cerr << "No group of benchmarks: " << group << ". There are:";
-    for (const std::string& one : groups) std::cerr << ' ' << one;
+  std::set<std::string> wanted(arguments.begin(), arguments.end());
+  for (const auto& [name, addJobs] : kGroups) {
+    if (arguments.empty() || wanted.erase(name) > 0) addJobs();
+  }
+  if (!wanted.empty()) {
+    std::cerr << "No group of benchmarks: " << *wanted.begin() << ". There are:";
+    for (const auto& [name, addJobs] : kGroups) std::cerr << ' ' << name;
     std::cerr << '\n';
     return 2;
   }
-  if (!arguments.empty()) groups = {arguments.begin(), arguments.end()};
 
   Progress progress;
   for (const Job& job : jobs()) {
-    if (!groups.contains(job.group)) continue;
     if (!isFair(job)) return 1;
     registerJob(job, progress, once);
   }
