@@ -21,8 +21,9 @@ jobs=$(getconf _NPROCESSORS_ONLN)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$jobs}"
 export CTEST_PARALLEL_LEVEL="${CTEST_PARALLEL_LEVEL:-$jobs}"
 
-# What a script needs: a command, a header or a file of Debian, its Debian package, and its Homebrew
-# formula or "xcode" for what comes with Apple's command line tools.
+# What a script needs: a command, a header, a file of Debian or a module of Python, its Debian
+# package, and its Homebrew formula, "xcode" for what comes with Apple's command line tools, or "-"
+# for what only scripts for Linux need.
 build_needs=(
   c++:g++:xcode
   make:make:xcode
@@ -69,11 +70,16 @@ libcxx_needs=(
 valgrind_needs=(
   valgrind/valgrind.h:valgrind:
 )
+arm_needs=(
+  "${test_needs[@]}"
+  aarch64-linux-gnu-g++:g++-aarch64-linux-gnu:-
+  qemu-aarch64-static:qemu-user-static:-
+)
 bits_needs=(
   "${test_needs[@]}"
   "${compiler_needs[@]}"
   "${libcxx_needs[@]}"
-  python3-gmpy2:python3-gmpy2:gmpy2
+  python3-gmpy2:python3-gmpy2:-
 )
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark

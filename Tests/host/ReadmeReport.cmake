@@ -1,5 +1,6 @@
 # Fails unless the README shows the report as the program prints it.
-execute_process(COMMAND "${REPORT}" OUTPUT_VARIABLE report COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(EMULATOR)
+execute_process(COMMAND ${EMULATOR} "${REPORT}" OUTPUT_VARIABLE report COMMAND_ERROR_IS_FATAL ANY)
 file(READ "${README}" readme)
 string(STRIP "${report}" report)
 string(FIND "${readme}" "```text\n${report}\n```" at)

@@ -21,8 +21,8 @@ quvard_test_program(QUVARDVisualBasicTests
   SOURCES visualbasic/Declarations.cpp "${outDir}/QUVARDBS1CForC.txt" "${outDir}/QUVARDCR1CForC.txt"
   LIBRARIES)
 
-# A program of .NET cannot load libraries with sanitizers in them.
-if(NOT TARGET VisualBasicReport OR CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+# A program of .NET cannot load libraries with sanitizers in them, or for another processor.
+if(NOT TARGET VisualBasicReport OR CMAKE_CXX_FLAGS MATCHES "-fsanitize" OR CMAKE_CROSSCOMPILING)
   return()
 endif()
 
