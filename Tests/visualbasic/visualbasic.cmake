@@ -11,15 +11,16 @@ foreach(header QUVARDBS1C QUVARDCR1C)
     COMMAND "${CMAKE_C_COMPILER}" -E -P "${headerDir}/${header}.h" > "${outDir}/${header}ForC.txt"
     DEPENDS "${headerDir}/${header}.h" VERBATIM)
 endforeach()
-file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/VisualBasicPaths.h" CONTENT
-"#define QUVARD_C_HEADER \"${outDir}/QUVARDBS1CForC.txt\"
-#define QUVARD_C_SIBLING_HEADER \"${outDir}/QUVARDCR1CForC.txt\"
-#define QUVARD_VB \"${hostDir}/QUVARDBS1C.vb\"
-#define QUVARD_BAS \"${hostDir}/QUVARDBS1C.bas\"
-")
-quvard_test_program(QUVARDVisualBasicTests
-  SOURCES visualbasic/Declarations.cpp "${outDir}/QUVARDBS1CForC.txt" "${outDir}/QUVARDCR1CForC.txt"
-  LIBRARIES)
+set(headersForC "${outDir}/QUVARDBS1CForC.txt" "${outDir}/QUVARDCR1CForC.txt")
+add_custom_target(HeadersForC ALL DEPENDS ${headersForC})
+foreach(dialect net applications)
+  set(file "QUVARDBS1C.vb")
+  if(dialect STREQUAL "applications")
+    set(file "QUVARDBS1C.bas")
+  endif()
+  quvard_test(VisualBasic.Declarations.${dialect} env LC_ALL=C awk -v "dialect=${dialect}"
+    -f "${testDir}/Declarations.awk" ${headersForC} "${hostDir}/${file}")
+endforeach()
 
 # A program of .NET cannot load libraries with sanitizers in them, or for another processor.
 if(NOT TARGET VisualBasicReport OR CMAKE_CXX_FLAGS MATCHES "-fsanitize" OR CMAKE_CROSSCOMPILING)
