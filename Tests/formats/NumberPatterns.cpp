@@ -1,6 +1,5 @@
-#include <vector>
-
-#include "support/Expectations.h"
+#include "support/SmallScopes.h"
+#include "support/Stepwise.h"
 
 TEST(NumberPatterns, NoDecimals) {
   for (const int32_t decimals : {kLowest, -1, 0}) EXPECT_GIVES(DecimalFormat, L"0", decimals);
@@ -28,44 +27,45 @@ TEST(NumberPatterns, ByDigitsIntoAnArray) {
   }
 }
 
-TEST(NumberPatterns, Output) {
+TEST(NumberPatterns, WorkedValues) {
   const Text decimals = L"0.###################";
-  using Row = std::tuple<std::vector<double>, Text>;
-  for (const auto& [values, pattern] :
-       {Row({0.0, 1.0, 1.0000000000001, 3.9999999999999, 1e300, kInf, kNaN}, L"0"),
-        Row({1e-12, 1e-15, 3e-19, 1e-32}, L"0"), Row({1e-20, 3.3e-19, 1e-31}, L"0E-#"),
-        Row({2.5, 1.0 / 3, 0.0004, 1.00000000001, 0.99999999999, 1.2345678901234e-5}, decimals),
-        Row({0.0003, 1e-5, above(1e-12)}, decimals + L"E-#")}) {
-    for (const double value : values) {
-      EXPECT_GIVES(OutputFormat, pattern, value);
-      EXPECT_GIVES(OutputFormat, pattern, -value);
-    }
+  for (const auto& [value, output, optimal, kept] :
+       {row(0.0, L"0"s, L"0", L"0"), row(3.9999999999999, L"0"s, L"0.000", L"0.000"),
+        row(1e-13, L"0"s, L"0", L"0"), row(3.3e-19, L"0E-#"s, L"0", L"0"),
+        row(2.5, decimals, L"0.000", L"0.000"), row(1e-5, decimals + L"E-#", L"0E-0", L"0.000E-0"),
+        row(5e-11, decimals, L"0.000E-00", L"0.000E-00"), row(123456.0, L"0"s, L"0E+0", L"0E+0"),
+        row(3e9, L"0"s, L"0E+0", L"0.000E+0"), row(7e20, L"0"s, L"0E+00", L"0.000E+00"),
+        row(kInf, L"0"s, L"0.000", L"0.000"), row(kNaN, L"0"s, L"0.000", L"0.000")}) {
+    EXPECT_GIVES(OutputFormat, output, value);
+    EXPECT_GIVES(OptimalFormat, optimal, value, 3, -1, 0);
+    EXPECT_GIVES(OptimalFormat, kept, value, 3, -1, -1);
   }
 }
 
-TEST(NumberPatterns, Optimal) {
-  // The patterns with keepDecimals set, and not set.
-  using Row = std::tuple<std::vector<double>, int32_t, HostBool, Text, Text>;
-  for (const auto& [values, decimals, useExponent, kept, unkept] :
-       {Row({0.0, 5.0, 5.0000000000001, below(1e-12)}, 3, -1, L"0", L"0"),
-        Row({0.1, 0.0009, 4.9999999999999, 99999.5, 1e-12, kInf, kNaN}, 3, -1, L"0.000", L"0.000"),
-        Row({1.5e-10, 0.00009}, 3, -1, L"0.000E-0", L"0.000E-0"),
-        Row({0.0001}, 3, -1, L"0.000E-0", L"0E-0"), Row({1e-10}, 3, -1, L"0.000E-00", L"0E-00"),
-        Row({1.1e-12, 5e-11}, 3, -1, L"0.000E-00", L"0.000E-00"),
-        Row({1e5, 123456.0, 2147483647.0}, 3, -1, L"0E+0", L"0E+0"),
-        Row({100000.5, 2147483649.0, 9999999999.5}, 3, -1, L"0.000E+0", L"0.000E+0"),
-        Row({3e9}, 3, -1, L"0.000E+0", L"0E+0"), Row({1e10, 7e20}, 3, -1, L"0.000E+00", L"0E+00"),
-        Row({0.0011, 2.5}, 2, -1, L"0.00", L"0.00"), Row({0.00099}, 2, -1, L"0.00E-0", L"0.00E-0"),
-        Row({15.5}, -1, -1, L"0", L"0"), Row({15.5}, -2, -1, L"0E-0", L"0E-0"),
-        Row({15.5, 0.05}, kLowest, -1, L"0E-0", L"0E-0"), Row({0.05}, 0, -1, L"0E-0", L"0E-0"),
-        Row({12345.6, 1e20, 1e-5, 3e9}, 1, 0, L"0.0", L"0.0")}) {
-    for (const double value : values) {
-      for (const double x : {value, -value}) {
-        EXPECT_GIVES(OptimalFormat, kept, x, decimals, useExponent, -1);
-        EXPECT_GIVES(OptimalFormat, unkept, x, decimals, useExponent, 0);
-      }
+// Where the patterns change: whole numbers, their neighbours and what is 1e-12 off, and powers of ten.
+TEST(NumberPatterns, AtEveryEdge) {
+  std::vector<double> values{kTiny, kExtreme, kInf, kNaN, 1.0 / 3};
+  for (const double whole : {0.0, 1.0, 5.0, 15.0, 0x1p31 - 1, 0x1p31, 0x1p53}) {
+    for (const double off : {0.0, 1e-13, 1e-12, 2e-12, 0.05, 0.5}) {
+      for (const double x : {whole - off, whole + off})
+        values.insert(values.end(), {below(x), x, above(x)});
     }
   }
-  EXPECT_GIVES(OptimalFormat, L"0", -2147483648.0, 1, 0, 0);
-  EXPECT_GIVES(OptimalFormat, L"0.0", 2147483648.0, 1, 0, 0);
+  for (int exponent = -40; exponent <= 25; ++exponent) {
+    const double power = std::pow(10.0, exponent);
+    for (const double x : {power, 3 * power, 9.99 * power})
+      values.insert(values.end(), {below(x), x, above(x)});
+  }
+  const std::vector<int32_t> limits{kLowest, -11, -2, -1, 0, 1, 2, 3, 9, 12, 40};
+  const std::vector<HostBool> flags{0, -1};
+  forEach(
+      [](double magnitude, double sign, int32_t decimals, HostBool useExponent,
+         HostBool keepDecimals) {
+        const double value = sign * magnitude;
+        EXPECT_GIVES(OutputFormat, stepwise::OutputFormat(value), value);
+        EXPECT_GIVES(OptimalFormat,
+                     stepwise::OptimalFormat(value, decimals, useExponent, keepDecimals), value,
+                     decimals, useExponent, keepDecimals);
+      },
+      values, std::vector<double>{1.0, -1.0}, limits, flags, flags);
 }

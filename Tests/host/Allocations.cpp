@@ -69,8 +69,9 @@ struct Strings {
 using Call = std::function<Text(const Strings&)>;
 
 // Calls with each allocation failing in turn, on new threads, where the sibling library has no
-// buffer yet.
-void expectAllMayFail(const std::string& name, const Texts& texts, const Call& call) {
+// buffer yet. Counts the failures.
+void expectAllMayFail(const std::string& name, const Texts& texts, const Call& call,
+                      long& failures) {
   const Strings strings(texts);
   const Text expected = call(strings);
   const Texts before = strings.texts();  // VB_Replace may have changed its text
@@ -84,6 +85,7 @@ void expectAllMayFail(const std::string& name, const Texts& texts, const Call& c
         call(strings);
         failed = false;
       } catch (const std::bad_alloc&) {
+        ++failures;
       }
       allocationsLeft = -1;
       worksAgain = call(strings) == expected;
@@ -95,7 +97,6 @@ void expectAllMayFail(const std::string& name, const Texts& texts, const Call& c
     ASSERT_EQ(liveAllocations, liveBefore) << when();
     ASSERT_TRUE(worksAgain) << when();
     ASSERT_EQ(strings.texts(), before) << when();
-    ASSERT_TRUE(failed || failing > 0) << name << " allocates nothing";
   }
 }
 
@@ -147,16 +148,17 @@ TEST(Allocations, EachMayFail) {
           {"Replace", [&](const Strings&) { return Replace(text, L"a", longer.c_str()); }},
           {"SysAllocString2", [](const Strings&) { return taken(SysAllocString2(L"\x1F600")); }}};
       for (const HostRoutine& routine : routines) {
-        if (routine.path == &kHandlesAlone) continue;
         calls.emplace_back(routine.name,
                            [&](const Strings& s) { return routine.call(s.handles.data()); });
         calls.emplace_back("what is as " + routine.name,
                            [&](const Strings&) { return routine.expected(texts); });
       }
+      long failures = 0;
       for (const auto& [name, call] : calls) {
-        expectAllMayFail(name, texts, call);
+        expectAllMayFail(name, texts, call, failures);
         if (HasFailure()) return;
       }
+      EXPECT_GT(failures, 2 * static_cast<long>(routines.size()));
     }
   }
 }

@@ -32,11 +32,3 @@ TEST(Boundary, TextEndsAtItsFirstZeroUnit) {
   EXPECT_EQ(convToWstring(nullptr), L"");
   EXPECT_EQ(taken(VB_StrConcat(units, units, nullptr, nullptr, nullptr, nullptr)), L"abab");
 }
-
-TEST(Boundary, TextsOfEveryLengthInPlaceAndOnTheHeap) {
-  for (std::size_t size = 0; size < 300; ++size) {
-    const Text text(size, L'x');
-    ASSERT_GIVES(VB_PStrP, L"(" + text + L")", text);
-    ASSERT_GIVES(VB_StrConcat, text + L"a" + text + text + L"b", text, L"a", text, text, L"", L"b");
-  }
-}

@@ -36,9 +36,11 @@ TEST(BinomialSums, AsStepwise) {
 
 TEST(BinomialSums, NoArgumentRunsLong) {
   const auto start = std::chrono::steady_clock::now();
-  expectRows("SumCnk", SumCnk, {4294967294.0, 0, kInf, kInf}, {-5, 0, kInf, 0},
-             {1e300, kLowest, kInf, 4198660.0}, {0.3, kLowest, kInf, 2.3058430092123919e+18},
-             {-kInf, kLowest, kInf, 0});
+  EXPECT_GIVES(SumCnk, kInf, 4294967294.0, 0, kInf);
+  EXPECT_GIVES(SumCnk, 0, -5, 0, kInf);
+  EXPECT_GIVES(SumCnk, 4198660.0, 1e300, kLowest, kInf);
+  EXPECT_GIVES(SumCnk, 2.3058430092123919e+18, 0.3, kLowest, kInf);
+  EXPECT_GIVES(SumCnk, 0, -kInf, kLowest, kInf);
   EXPECT_GT(SumCnk(1020.5, 0, kInf), 1e307);
   for (const double n : {1e9 + 0.1, -1e9, 2147483647.75, 3e9, kInf, kNaN}) {
     EXPECT_NE(SumCnk(n, kLowest, kInf), 0.0) << n;

@@ -8,8 +8,12 @@ namespace {
 
 TEST(Divisors, OfIntegersNearTheLimits) {
   const auto integers = integersNear(40, {-65536, 65536});
-  forEach([](int32_t a, int32_t b) { expectSame("LCD", LCD, stepwise::LCD, a, b); }, integers,
-          integers);
+  forEach(
+      [](int32_t a, int32_t b) {
+        expectSame("LCD", LCD, stepwise::LCD, a, b);
+        expectSame("Mod", Mod, stepwise::Mod, a, b);
+      },
+      integers, integers);
 }
 
 TEST(Divisors, AsStepwise) {

@@ -116,18 +116,6 @@ inline testing::AssertionResult resultItself(const char*, testing::AssertionResu
   return result;
 }
 
-// Each row has the arguments of the routine and its result.
-template <typename Result, typename... Parameters, std::size_t... columns>
-void expectRows(const char* name, Result (*routine)(Parameters...),
-                const double (&... rows)[columns]) {
-  static_assert(((columns == sizeof...(Parameters) + 1) && ...));
-  const auto expectRow = [&]<std::size_t... i>(const double* row, std::index_sequence<i...>) {
-    EXPECT_PRED_FORMAT1(
-        resultItself, gives(name, routine, row[sizeof...(i)], static_cast<Parameters>(row[i])...));
-  };
-  (expectRow(rows, std::index_sequence_for<Parameters...>()), ...);
-}
-
 // Expects that an expression, whose own text is shown, gives a result.
 #define EXPECT_EXAMPLE(actual, expected) \
   EXPECT_PRED_FORMAT1(resultItself,      \

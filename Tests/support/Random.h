@@ -6,10 +6,11 @@
 #include <bit>
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <random>
 #include <string>
 #include <utility>
+
+#include "support/Doubles.h"
 
 class Random {
  public:
@@ -36,36 +37,14 @@ class Random {
 
   // A value of either sign at some edge or close to it, or any double.
   double edge() {
-    constexpr double kLargest = std::numeric_limits<double>::max();
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    constexpr double kEdges[] = {0.0,
-                                 0x1p-1074,
-                                 1e-300,
-                                 1e-12,
-                                 0x1p-51,
-                                 1e-6,
-                                 0.25,
-                                 0.5,
-                                 1.0,
-                                 2.0,
-                                 6.5,
-                                 709.0,
-                                 1e10,
-                                 0x1p31,
-                                 0x1p31 - 1,
-                                 0x1p32,
-                                 0x1p52,
-                                 0x1p53,
-                                 1e16,
-                                 1e300,
-                                 kLargest,
-                                 kInfinity,
-                                 std::numeric_limits<double>::quiet_NaN()};
+    constexpr double kEdges[] = {
+        0.0,  kTiny,  1e-300,     1e-12,  0x1p-51, 1e-6,   0.25, 0.5,   1.0,      2.0,  6.5, 709.0,
+        1e10, 0x1p31, 0x1p31 - 1, 0x1p32, 0x1p52,  0x1p53, 1e16, 1e300, kExtreme, kInf, kNaN};
     const std::size_t choice = below(std::size(kEdges) + 4);
     double x = choice < std::size(kEdges) ? kEdges[choice] : std::bit_cast<double>(source_(64));
     const std::size_t shift = below(9);
-    if (shift == 1) x = std::nextafter(x, kInfinity);
-    if (shift == 2) x = std::nextafter(x, -kInfinity);
+    if (shift == 1) x = ::above(x);
+    if (shift == 2) x = ::below(x);
     if (shift > 6) x += static_cast<double>(shift) * 0.25;
     return shift % 2 == 0 ? x : -x;
   }
