@@ -94,6 +94,10 @@ report_needs=(
 accuracy_needs=(
   mpfr.h:libmpfr-dev:mpfr
 )
+coverage_needs=(
+  gcov:gcc:gcc
+  gcovr:gcovr:gcovr
+)
 package_needs=(
   "${build_needs[@]}"
   dpkg-shlibdeps:dpkg-dev:dpkg

@@ -36,6 +36,7 @@ TEST(Services, TextEndsAtItsFirstZeroUnit) {
   EXPECT_EQ(taken(convertWstringToBSTR(L"ab\0cd"s)), L"ab");
   EXPECT_EQ(convertBSTRtoWstring(null), L"");
   EXPECT_EQ(taken(SysAllocString16(nullptr)), L"");
+  releaseBSTR(nullptr);
 }
 
 TEST(Services, WideBufferIsReusedAndEachThreadHasItsOwn) {

@@ -32,9 +32,8 @@ class TwoWaySearch {
     const Suffix& shorter = rising.start > falling.start ? rising : falling;
     cut_ = shorter.start;
     period_ = shorter.period;
-    const bool isPeriodic = cut_ + period_ <= pattern.size() &&
-                            pattern.substr(0, cut_) == pattern.substr(period_, cut_);
-    if (isPeriodic) {
+    // The suffix is no shorter than its period.
+    if (pattern.substr(0, cut_) == pattern.substr(period_, cut_)) {
       overlap_ = pattern.size() - period_;
     } else {
       period_ = std::max(cut_, pattern.size() - cut_) + 1;

@@ -79,10 +79,10 @@ Match extendMatch(Match match, wchar_t unit, std::wstring_view chars, const Matc
   return match + (chars[match] == unit ? 1 : 0);
 }
 
-// Writes the borders of `chars`.
+// Writes the borders of `chars`, which is not empty.
 void findBorders(std::wstring_view chars, Match* borders) {
   borders[0] = 0;
-  if (!chars.empty()) borders[1] = 0;
+  borders[1] = 0;
   for (std::size_t i = 1; i < chars.size(); ++i) {
     borders[i + 1] = extendMatch(borders[i], chars[i], chars, borders);
   }
