@@ -13,6 +13,7 @@
 #include <iostream>
 #include <limits>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -126,6 +127,8 @@ const std::map<std::string, Check> kRoutines{{"LinearInterpol", of(linear)},
                                              {"spow", of(spow)},
                                              {"sqr", of(sqr)}};
 
+const std::set<std::string> kFunctions{"atan", "exp", "log", "log10", "pow"};
+
 // Keeps a row of a function of the platform.
 void keep(const std::string& function, std::istream& row) {
   std::vector<uint64_t> arguments;
@@ -145,8 +148,10 @@ std::vector<std::string> faultsIn(const char* path) {
     const auto routine = kRoutines.find(name);
     if (line.ends_with(':')) {
       name = line.substr(0, line.size() - 1);
-    } else if (routine == kRoutines.end()) {
+    } else if (kFunctions.contains(name)) {
       keep(name, row);
+    } else if (routine == kRoutines.end()) {
+      faults.push_back("No routine is called " + name);
     } else if (const std::string fault = routine->second(row); !fault.empty()) {
       faults.push_back(name + fault);
     }
