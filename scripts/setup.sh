@@ -98,6 +98,9 @@ coverage_needs=(
   gcov:gcc:gcc
   gcovr:gcovr:gcovr
 )
+mutation_needs=(
+  python3:python3:python
+)
 package_needs=(
   "${build_needs[@]}"
   dpkg-shlibdeps:dpkg-dev:dpkg
