@@ -4,6 +4,7 @@ usage: report.py RESULTS.json [PICTURE.svg]
 """
 
 import json
+import math
 import platform
 import sys
 from html import escape
@@ -90,38 +91,41 @@ def print_tables(times):
 
 
 def draw(times, machine):
-    """Bars of ratios, a column of them for each group; the line at 1 is the other contestant."""
+    """Bars of ratios on a logarithmic scale, to the left of 1 where ours is the faster one."""
     columns = []
     for group, title, other in (
-        ("short", "calls on short texts: time against the floor", lambda job: "floor"),
+        ("short", "10 to 50 units: time against the floor", lambda job: "floor"),
         ("long", "a million units: time against the fastest peer", fastest_peer),
         ("numerics", "numerics: time against the plain steps", lambda job: "transcription"),
     ):
         bars = [(name, ratio(job, other(job))) for name, job in times[group].items()]
         columns.append((title, bars))
-    width, row, top = 400, 16, 56
+    width, row, top, octave, one = 450, 16, 70, 20, 310
     height = top + row * max(len(bars) for _, bars in columns) + 40
-    most, label, scale = 4.0, 190, 40.0
     out = [
         f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width * len(columns)} {height}"'
         ' font-family="sans-serif" font-size="11">',
         '<rect width="100%" height="100%" fill="#fff"/>',
     ]
     for number, (title, bars) in enumerate(columns):
-        left = number * width
-        out.append(f'<text x="{left + 12}" y="30" font-size="14">{escape(title)}</text>')
+        middle = number * width + one
+        bottom = top + row * len(bars)
+        out.append(f'<text x="{number * width + 12}" y="28" font-size="14">{escape(title)}</text>')
+        for power, mark in ((-4, "1/16"), (-2, "1/4"), (0, "1"), (2, "4"), (4, "16")):
+            x = middle + power * octave
+            colour = "#444" if power == 0 else "#ddd"
+            out.append(f'<path d="M{x} {top - 6}V{bottom}" stroke="{colour}"/>')
+            out.append(f'<text x="{x}" y="{top - 12}" text-anchor="middle">{mark}</text>')
         for i, (name, value) in enumerate(bars):
             y = top + row * i
-            length = min(value, most) * scale
+            length = octave * math.log2(value)
             colour = "#3b7d4f" if value <= 1 else "#4a6fa5"
-            out.append(f'<text x="{left + label - 6}" y="{y + 10}" text-anchor="end">{escape(name)}</text>')
+            left, right = middle + min(length, 0), middle + max(length, 0)
+            out.append(f'<text x="{number * width + 200}" y="{y + 10}" text-anchor="end">{escape(name)}</text>')
             out.append(
-                f'<rect x="{left + label}" y="{y + 1}" width="{length:.1f}" height="{row - 5}" fill="{colour}"/>'
+                f'<rect x="{left:.1f}" y="{y + 1}" width="{right - left:.1f}" height="{row - 5}" fill="{colour}"/>'
             )
-            out.append(f'<text x="{left + label + length + 4:.1f}" y="{y + 10}">{value:.2f}</text>')
-        one, end = left + label + scale, top + row * len(bars)
-        out.append(f'<path d="M{one} {top - 6}V{end}" stroke="#444" stroke-dasharray="3 2"/>')
-        out.append(f'<text x="{one}" y="{top - 10}" text-anchor="middle">1</text>')
+            out.append(f'<text x="{right + 4:.1f}" y="{y + 10}">{value:.2f}</text>')
     out.append(f'<text x="12" y="{height - 14}">Medians. {escape(machine)}</text>')
     out.append("</svg>")
     return "\n".join(out) + "\n"
