@@ -97,35 +97,21 @@ auto quadratic(double x1, double x2, double x3, double y1, double y2, double y3,
   return std::tuple(status, x, xSecond, y);
 }
 
-const std::map<std::string, Check> kRoutines{{"LinearInterpol", of(linear)},
-                                             {"QuadraticInterpol", of(quadratic)},
-                                             {"ASin", of(ASin)},
-                                             {"Cnk", of(Cnk)},
-                                             {"FSgn", of(FSgn)},
-                                             {"FSign", of(FSign)},
-                                             {"Fact", of(Fact)},
-                                             {"GammaLn", of(GammaLn)},
-                                             {"Int05", of(Int05)},
-                                             {"Int05LU", of(Int05LU)},
-                                             {"Int05c", of(Int05c)},
-                                             {"IsEven", of(IsEven)},
-                                             {"IsEvenLng", of(IsEvenLng)},
-                                             {"IsLong", of(IsLong)},
-                                             {"IsLongP", of(IsLongP)},
-                                             {"LCD", of(LCD)},
-                                             {"LCD2", of(LCD2)},
-                                             {"LCDDbl", of(LCDDbl)},
-                                             {"Log10", of(Log10)},
-                                             {"LogExpAPlusExpB", of(LogExpAPlusExpB)},
-                                             {"Max", of(Max)},
-                                             {"Min", of(Min)},
-                                             {"Mod", of(Mod)},
-                                             {"ModDbl", of(ModDbl)},
-                                             {"Pi", of(Pi)},
-                                             {"SumCnk", of(SumCnk)},
-                                             {"expm1x", of(expm1x)},
-                                             {"spow", of(spow)},
-                                             {"sqr", of(sqr)}};
+template <typename... Routines>
+std::map<std::string, Check> checksOf(const char* names, Routines... routines) {
+  std::map<std::string, Check> checks{{"LinearInterpol", of(linear)},
+                                      {"QuadraticInterpol", of(quadratic)}};
+  std::istringstream list(names);
+  std::string name;
+  ((std::getline(list >> std::ws, name, ','), checks[name] = of(routines)), ...);
+  return checks;
+}
+#define CHECKS_OF(...) checksOf(#__VA_ARGS__, __VA_ARGS__)
+
+const auto kRoutines =
+    CHECKS_OF(ASin, Cnk, FSgn, FSign, Fact, GammaLn, Int05, Int05LU, Int05c, IsEven, IsEvenLng,
+              IsLong, IsLongP, LCD, LCD2, LCDDbl, Log10, LogExpAPlusExpB, Max, Min, Mod, ModDbl, Pi,
+              SumCnk, expm1x, spow, sqr);
 
 const std::set<std::string> kFunctions{"atan", "exp", "log", "log10", "pow"};
 

@@ -2,18 +2,13 @@
 
 #include "support/Random.h"
 #include "support/SmallScopes.h"
-#include "support/Stepwise.h"
 
 namespace {
 
 TEST(Divisors, OfIntegersNearTheLimits) {
   const auto integers = integersNear(40, {-65536, 65536});
-  forEach(
-      [](int32_t a, int32_t b) {
-        expectSame("LCD", LCD, stepwise::LCD, a, b);
-        expectSame("Mod", Mod, stepwise::Mod, a, b);
-      },
-      integers, integers);
+  EXPECT_SAME(LCD, stepwise::LCD, integers, integers);
+  EXPECT_SAME(Mod, stepwise::Mod, integers, integers);
 }
 
 TEST(Divisors, AsStepwise) {

@@ -1,6 +1,4 @@
-#include <vector>
-
-#include "support/Expectations.h"
+#include "support/SmallScopes.h"
 
 TEST(AdjectiveNoun, EveryLanguageAndFlagCombination) {
   // The phrases are in the order of the flags in binary, upperAdjective first, noBlank last.
@@ -27,9 +25,8 @@ TEST(AdjectiveNoun, EveryLanguageAndFlagCombination) {
 }
 
 TEST(AdjectiveNoun, MissingAndUpperCaseWords) {
-  EXPECT_GIVES(LocalAN, L" no", L"", L"No", L"US", -1, 0, 0);
-  EXPECT_GIVES(LocalAN, L"No ", L"", L"No", L"ES", 0, 0, 0);
-  EXPECT_GIVES(LocalAN, L"ad", L"Ad", L"", L"ES", 0, -1, -1);
-  EXPECT_GIVES(LocalAN, L" Ad", L"Ad", L"", L"ES", 0, -1, 0);
-  EXPECT_GIVES(LocalAN, L"AD nO", L"AD", L"NO", L"US", 0, 0, 0);
+  const std::vector<Text> words{L"", L"ad", L"No", L"XX", L"\0a"s},
+      languages{L"ES", L"US", L"DE", L"JP", L"EN"};
+  const std::vector<HostBool> flags{0, -1};
+  EXPECT_SAME(LocalAN, stepwise::LocalAN, words, words, languages, flags, flags, flags);
 }

@@ -1,20 +1,11 @@
-#include "support/Expectations.h"
+#include "support/SmallScopes.h"
 
-TEST(FirstLetter, ByLanguage) {
-  for (const Text language : {L"US", L"ES", L"FR", L"IT", L"PT", L"PL", L"CS", L"CN", L"DE", L"JP",
-                              L"de", L"jp", L"DEU", L"XX", L""}) {
-    for (const HostBool force : {0, -1}) {
-      const bool kept = language == L"JP" || (language == L"DE" && force == 0);
-      EXPECT_GIVES(LowerFirst, kept ? L"MODEL" : L"mODEL", L"MODEL", language, force);
-    }
-  }
-}
-
-TEST(FirstLetter, LowerAndUpper) {
-  for (const auto& [text, lower, upper] :
-       {row(L"lin", L"lin", L"Lin"), row(L"M", L"m", L"M"), row(L"", L"", L""),
-        row(L" Ab", L" Ab", L" Ab"), row(L"\x142x", L"\x142x", L"\x142x")}) {
-    EXPECT_GIVES(LowerFirst, lower, text, L"US", 0);
-    EXPECT_GIVES(UpperFirst, upper, text);
-  }
+TEST(FirstLetter, InEveryLanguage) {
+  const std::vector<Text> texts{L"",  L"m", L"Z", L"MODEL", L" Ab",
+                                L"@", L"[", L"`", L"{",     L"\x142x"};
+  const std::vector<Text> languages{L"US", L"ES", L"FR", L"IT", L"PT",  L"PL", L"CS", L"CN",
+                                    L"DE", L"JP", L"de", L"jp", L"DEU", L"XX", L""};
+  EXPECT_SAME(LowerFirst, stepwise::LowerFirst, texts, languages, std::vector<HostBool>{0, -1});
+  EXPECT_SAME(UpperFirst, stepwise::UpperFirst, texts);
+  EXPECT_GIVES(LowerFirst, L"mODEL", L"MODEL", L"DE", -1);
 }

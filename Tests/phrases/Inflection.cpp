@@ -1,9 +1,7 @@
 #include "support/SmallScopes.h"
 
 TEST(Inflection, PluralBeginsAtTwo) {
-  for (const int32_t count : integersNear(33)) {
-    const Text expected = count < 2 ? L"case" : L"cases";
-    EXPECT_GIVES(SingPlural, expected, L"case", L"cases", count);
-    EXPECT_GIVES(VB_SingPlural, expected, L"case", L"cases", count);
-  }
+  const std::vector<Text> one{L"case"}, more{L"cases"};
+  EXPECT_SAME(SingPlural, stepwise::SingPlural, one, more, integersNear(33));
+  EXPECT_SAME(VB_SingPlural, stepwise::SingPlural, one, more, integersNear(33));
 }

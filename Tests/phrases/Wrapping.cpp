@@ -1,11 +1,8 @@
-#include "support/Expectations.h"
+#include "support/SmallScopes.h"
 
 TEST(Wrapping, NothingIsTrimmedOrTested) {
-  for (const Text text : {L"", L" (a) ", L"[a word of some length]", L"\xD83D\xDE00"}) {
-    EXPECT_GIVES(SpStrSp, L" " + text + L" ", text);
-    EXPECT_GIVES(PStrP, L"(" + text + L")", text);
-    EXPECT_GIVES(VB_BStrB, L"[" + text + L"]", text);
-  }
-  EXPECT_GIVES(SpStrSp, L" \0 "s, L"\0"s);
-  EXPECT_GIVES(PStrP, L"(\0)"s, L"\0"s);
+  const std::vector<Text> texts{L"", L" (a) ", L"[a word of some length]", L"\xD83D\xDE00", L"\0"s};
+  EXPECT_SAME(SpStrSp, stepwise::SpStrSp, texts);
+  EXPECT_SAME(PStrP, stepwise::PStrP, texts);
+  EXPECT_GIVES(VB_BStrB, L"[[a]]", L"[a]");
 }

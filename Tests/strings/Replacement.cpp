@@ -1,6 +1,5 @@
 #include "support/Random.h"
 #include "support/SmallScopes.h"
-#include "support/Stepwise.h"
 
 namespace {
 

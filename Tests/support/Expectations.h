@@ -86,8 +86,12 @@ testing::AssertionResult isSame(const Actual& actual, const Expected& expected, 
 
 testing::AssertionResult gives(const char* routine, const auto& call, const auto& expected,
                                const auto&... arguments) {
-  return isSame(comparable(call(arguments...)), comparable(expected),
-                [&] { return shownCall(routine, arguments...); });
+  const auto shownHere = [&] { return shownCall(routine, arguments...); };
+  try {
+    return isSame(comparable(call(arguments...)), comparable(expected), shownHere);
+  } catch (const std::exception& exception) {
+    return testing::AssertionFailure() << shownHere() << "\n  throws " << exception.what();
+  }
 }
 
 // A text as the argument of a host routine; anything else as it is.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "support/Expectations.h"
+#include "support/Stepwise.h"
 
 // Every text over some units up to a length, the short ones first.
 inline std::vector<Text> textsUpTo(std::size_t longest, const Text& units = L"ab") {
@@ -43,5 +44,11 @@ void forEach(const Check& check, const Set& set, const Sets&... sets) {
     forEach([&](const auto&... others) { check(element, others...); }, sets...);
   }
 }
+
+// Expects that a routine gives what a reference gives for each combination.
+#define EXPECT_SAME(routine, reference, ...)                                                       \
+  forEach(                                                                                         \
+      [](const auto&... elements) { EXPECT_GIVES(routine, reference(elements...), elements...); }, \
+      __VA_ARGS__)
 
 #endif
