@@ -1,4 +1,4 @@
-#include <array>
+#include <functional>
 
 #include "docs/PageTable.h"
 
@@ -6,75 +6,64 @@ namespace {
 
 const std::string kPage = "phrases.md";
 
-struct Code {
-  const wchar_t* code;
-  const char* shown;
-};
-constexpr Code kCodes[] = {{L"ES", "ES"}, {L"FR", "FR"}, {L"IT", "IT"},       {L"PT", "PT"},
-                           {L"PL", "PL"}, {L"US", "US"}, {L"DE", "DE"},       {L"JP", "JP"},
-                           {L"CS", "CS"}, {L"CN", "CN"}, {L"XX", "any other"}};
-
-// Expects the table that has a row for each of some cases and a column for each set of languages
-// that give the same texts in all of them. `call` takes a case and a language code.
-template <typename Case, typename Call>
-void expectTableByLanguage(const std::string& title,
-                           const std::vector<std::pair<std::string, Case>>& cases, Call call) {
-  std::vector<std::pair<Cells, Cells>> columns;  // languages, texts
-  for (const auto& [code, shown] : kCodes) {
-    Cells texts;
-    for (const auto& [name, values] : cases) texts.push_back(inGuillemets(call(values, code)));
-    const auto same = std::find_if(columns.begin(), columns.end(),
-                                   [&](const auto& column) { return column.second == texts; });
+// Expects the table that has a row for each label and a column for each set of languages that give
+// the same texts in all rows.
+void expectTableByLanguage(const std::string& title, const Cells& labels,
+                           const std::function<Text(std::size_t, const Text&)>& call) {
+  std::vector<Cells> columns;
+  for (const std::string language :
+       {"ES", "FR", "IT", "PT", "PL", "US", "DE", "JP", "CS", "CN", "any other"}) {
+    Cells column{language};
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+      column.push_back(inGuillemets(call(i, Text(language.begin(), language.end()))));
+    }
+    const auto same = std::find_if(columns.begin(), columns.end(), [&](const Cells& other) {
+      return std::equal(other.begin() + 1, other.end(), column.begin() + 1);
+    });
     if (same == columns.end()) {
-      columns.push_back({{shown}, texts});
+      columns.push_back(column);
     } else {
-      same->first.push_back(shown);
+      same->front() += ", " + language;
     }
   }
-
-  Cells titles{title};
-  for (const auto& column : columns) titles.push_back(listOf(column.first));
-  std::vector<Cells> rows;
-  for (std::size_t i = 0; i < cases.size(); ++i) {
-    rows.push_back({cases[i].first});
-    for (const auto& column : columns) rows.back().push_back(column.second[i]);
+  std::vector<Cells> rows{{title}};
+  for (const std::string& label : labels) rows.push_back({label});
+  for (const Cells& column : columns) {
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i].push_back(column[i]);
   }
-  expectTable(kPage, titles, rows);
+  expectTable(kPage, rows.front(), {rows.begin() + 1, rows.end()});
 }
 
 }  // namespace
 
 TEST(PhrasesPage, EachLanguageWithEachFlag) {
+  const std::vector<unsigned> sets{0, 1, 2, 4, 3, 5, 6, 7};
   const char* const names[] = {"`upperAdjective`", "`lowerResult`", "`noBlank`"};
-  std::vector<std::pair<std::string, std::array<HostBool, 3>>> cases;
-  for (const int set : {0, 1, 2, 4, 3, 5, 6, 7}) {
-    Cells shown;
-    std::array<HostBool, 3> flags{};
-    for (std::size_t i = 0; i < 3; ++i) {
-      if ((set >> i & 1) == 0) continue;
-      flags[i] = -1;
-      shown.push_back(names[i]);
+  const auto flag = [&](std::size_t i, int bit) { return sets[i] >> bit & 1 ? -1 : 0; };
+  Cells labels;
+  for (std::size_t i = 0; i < sets.size(); ++i) {
+    Cells set;
+    for (int bit = 0; bit < 3; ++bit) {
+      if (flag(i, bit) != 0) set.push_back(names[bit]);
     }
-    cases.push_back({shown.empty() ? "none" : listOf(shown), flags});
+    labels.push_back(set.empty() ? "none" : listOf(set));
   }
-  expectTableByLanguage("Flags set", cases, [](const auto& flags, const wchar_t* language) {
-    return LocalAN(L"linear", L"Model", language, flags[0], flags[1], flags[2]);
+  expectTableByLanguage("Flags set", labels, [&](std::size_t i, const Text& language) {
+    return LocalAN(L"linear", L"Model", language, flag(i, 0), flag(i, 1), flag(i, 2));
   });
 }
 
 TEST(PhrasesPage, MissingWords) {
-  using Words = std::pair<Text, Text>;
-  const std::vector<std::pair<std::string, Words>> cases{
-      {"«», «Model»", {L"", L"Model"}}, {"«linear», «»", {L"linear", L""}}, {"«», «»", {}}};
-  expectTableByLanguage("Adjective, noun", cases, [](const Words& words, const wchar_t* language) {
-    return LocalAN(words.first, words.second, language, 0, 0, 0);
-  });
+  const Text adjectives[] = {L"", L"linear", L""}, nouns[] = {L"Model", L"", L""};
+  expectTableByLanguage("Adjective, noun", {"«», «Model»", "«linear», «»", "«», «»"},
+                        [&](std::size_t i, const Text& language) {
+                          return LocalAN(adjectives[i], nouns[i], language, 0, 0, 0);
+                        });
 }
 
 TEST(PhrasesPage, LowerFirst) {
-  const std::vector<std::pair<std::string, HostBool>> cases{{"not set", 0}, {"set", -1}};
-  expectTableByLanguage("`forceDE`", cases, [](HostBool forceDE, const wchar_t* language) {
-    return LowerFirst(L"Model", language, forceDE);
+  expectTableByLanguage("`forceDE`", {"not set", "set"}, [](std::size_t i, const Text& language) {
+    return LowerFirst(L"Model", language, i == 0 ? 0 : -1);
   });
 }
 
