@@ -1,7 +1,10 @@
 #include "support/SmallScopes.h"
 
-TEST(NumberPatterns, NoDecimals) {
-  for (const int32_t decimals : {kLowest, -1, 0}) EXPECT_GIVES(DecimalFormat, L"0", decimals);
+TEST(NumberPatterns, Decimals) {
+  auto decimals = integersNear(100);
+  std::erase_if(decimals, [](int32_t n) { return n > 100; });
+  EXPECT_SAME(DecimalFormat, stepwise::DecimalFormat, decimals);
+  EXPECT_SAME(Cpp_DecimalFormat, stepwise::DecimalFormat, decimals);
 }
 
 TEST(NumberPatterns, ByDigitsIntoAnArray) {

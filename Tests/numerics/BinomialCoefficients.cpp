@@ -1,12 +1,13 @@
 #include <chrono>
 
-#include "support/Expectations.h"
 #include "support/Random.h"
-#include "support/Stepwise.h"
+#include "support/SmallScopes.h"
 
 namespace {
 
 void expectCnk(double n, double k) { expectSame("Cnk", Cnk, stepwise::Cnk, n, k); }
+
+TEST(Factorials, AsStepwise) { EXPECT_SAME(Fact, stepwise::Fact, integersNear(300)); }
 
 TEST(BinomialCoefficients, AsStepwise) {
   for (int n = 0; n <= 1100; n += n < 130 ? 1 : 9) {

@@ -9,6 +9,8 @@ TEST(Divisors, OfIntegersNearTheLimits) {
   const auto integers = integersNear(40, {-65536, 65536});
   EXPECT_SAME(LCD, stepwise::LCD, integers, integers);
   EXPECT_SAME(Mod, stepwise::Mod, integers, integers);
+  const auto isEven = [](int32_t n) { return n % 2 == 0 ? -1 : 0; };
+  EXPECT_SAME(IsEvenLng, isEven, integers);
 }
 
 TEST(Divisors, AsStepwise) {

@@ -46,9 +46,11 @@ void forEach(const Check& check, const Set& set, const Sets&... sets) {
 }
 
 // Expects that a routine gives what a reference gives for each combination.
-#define EXPECT_SAME(routine, reference, ...)                                                       \
-  forEach(                                                                                         \
-      [](const auto&... elements) { EXPECT_GIVES(routine, reference(elements...), elements...); }, \
+#define EXPECT_SAME(routine, reference, ...)                        \
+  forEach(                                                          \
+      [&](const auto&... elements) {                                \
+        EXPECT_GIVES(routine, reference(elements...), elements...); \
+      },                                                            \
       __VA_ARGS__)
 
 #endif
