@@ -38,7 +38,7 @@ class Real {
   }
   ~Real() { mpfr_clear(value_); }
 
-  double rounded() const { return mpfr_get_d(value_, MPFR_RNDN); }
+  double toDouble() const { return mpfr_get_d(value_, MPFR_RNDN); }
 
   using Unary = int (*)(mpfr_ptr, mpfr_srcptr, mpfr_rnd_t);
   using Binary = int (*)(mpfr_ptr, mpfr_srcptr, mpfr_srcptr, mpfr_rnd_t);
@@ -61,7 +61,7 @@ Real operator+(const Real& a, const Real& b) { return Real::of(mpfr_add, a, b); 
 Real operator-(const Real& a, const Real& b) { return Real::of(mpfr_sub, a, b); }
 Real operator*(const Real& a, const Real& b) { return Real::of(mpfr_mul, a, b); }
 Real operator/(const Real& a, const Real& b) { return Real::of(mpfr_div, a, b); }
-bool operator<(const Real& a, const Real& b) { return (a - b).rounded() < 0.0; }
+bool operator<(const Real& a, const Real& b) { return (a - b).toDouble() < 0.0; }
 
 Real squareRoot(const Real& a) { return Real::of(mpfr_sqrt, a); }
 Real exponential(const Real& a) { return Real::of(mpfr_exp, a); }
@@ -70,16 +70,16 @@ Real logGamma(const Real& a) { return Real::of(mpfr_lngamma, a); }
 Real expMinusOne(const Real& a) { return Real::of(mpfr_expm1, a); }
 
 double absoluteError(double actual, const Real& expected) {
-  return std::fabs((Real(actual) - expected).rounded());
+  return std::fabs((Real(actual) - expected).toDouble());
 }
 
 double relativeError(double actual, const Real& expected) {
-  return std::fabs(((Real(actual) - expected) / expected).rounded());
+  return std::fabs(((Real(actual) - expected) / expected).toDouble());
 }
 
 // In distances of neighbouring doubles at the correctly rounded result.
 double ulpError(double actual, const Real& expected) {
-  const double value = std::fabs(expected.rounded());
+  const double value = std::fabs(expected.toDouble());
   return absoluteError(actual, expected) / (std::nextafter(value, INFINITY) - value);
 }
 
@@ -101,7 +101,7 @@ struct Worst {
 };
 
 // Some of the arguments moved by a common step, from about the size of one of them to its last bits.
-Arguments moved(Arguments arguments) {
+Arguments move(Arguments arguments) {
   const double size = arguments[random64() % arguments.size()];
   const double step = std::ldexp(size * between(-1.0, 1.0), -static_cast<int>(random64() % 54));
   const std::size_t first = random64() % arguments.size();
@@ -114,7 +114,7 @@ Arguments moved(Arguments arguments) {
 void climb(Worst& worst, const Error& error) {
   const int patience = kMovesWithoutGain * static_cast<int>(worst.arguments.size());
   for (int moves = 0; moves < patience; ++moves) {
-    Arguments arguments = moved(worst.arguments);
+    Arguments arguments = move(worst.arguments);
     const double found = error(arguments);
     if (found > worst.error) {
       worst = {std::move(arguments), found};
@@ -236,7 +236,7 @@ void cnkAccuracy() {
     for (int k = 1; 2 * k <= n; ++k) {
       // The way of Cnk leads through the coefficients of n - k + i over i.
       expected = expected * Real(n - k + 1) / Real(k);
-      isExact = isExact && expected.rounded() * k <= 0x1p53;
+      isExact = isExact && expected.toDouble() * k <= 0x1p53;
       Worst& worst = isExact ? exact : rounded;
       for (const double other : {k, n - k}) {
         const double error = ulpError(Cnk(n, other), expected);
@@ -325,7 +325,7 @@ void quadraticAccuracy() {
     const auto [a, b, c] = Parabola(p);
     double x = 0.0, second = 0.0, y = p[6];
     const Real discriminant = b * b - Real(4.0) * a * (c - Real(y));
-    if (std::fabs(a.rounded()) < 0.1 || discriminant < Real(0.01)) return -1.0;
+    if (std::fabs(a.toDouble()) < 0.1 || discriminant < Real(0.01)) return -1.0;
     QuadraticInterpol(p[0], p[1], p[2], p[3], p[4], p[5], &x, &second, &y, QUVARDBS1C_FALSE);
     const Real root = squareRoot(discriminant), twice = a * Real(2.0);
     const Real one = (Real(0.0) - b - root) / twice, other = (root - b) / twice;

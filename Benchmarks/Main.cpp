@@ -20,7 +20,7 @@ namespace {
 constexpr int kRepetitions = 7;
 constexpr double kSecondsOfOne = 0.05;
 
-std::string printed(std::u16string_view text, std::size_t at) {
+std::string show(std::u16string_view text, std::size_t at) {
   constexpr std::size_t kBefore = 10, kUnits = 40;
   std::string line;
   for (const char16_t unit : text.substr(at < kBefore ? 0 : at - kBefore, kUnits)) {
@@ -29,7 +29,7 @@ std::string printed(std::u16string_view text, std::size_t at) {
   return '"' + line + "\" of " + std::to_string(text.size()) + " units";
 }
 
-std::string printed(double number) {
+std::string show(double number) {
   char digits[40];
   std::snprintf(digits, sizeof digits, "%.17g (%a)", number, number);
   return digits;
@@ -46,11 +46,11 @@ std::vector<std::string> compare(const Result& a, const Result& b, double tolera
   const auto unit = std::mismatch(a.text.begin(), a.text.end(), b.text.begin(), b.text.end()).first;
   if (a.text != b.text) {
     const auto at = static_cast<std::size_t>(unit - a.text.begin());
-    return {"unit " + std::to_string(at), printed(a.text, at), printed(b.text, at)};
+    return {"unit " + std::to_string(at), show(a.text, at), show(b.text, at)};
   }
   for (std::size_t i = 0; i < std::max(a.numbers.size(), b.numbers.size()); ++i) {
     if (!agree(a.numbers.at(i), b.numbers.at(i), tolerance)) {
-      return {"number " + std::to_string(i), printed(a.numbers[i]), printed(b.numbers[i])};
+      return {"number " + std::to_string(i), show(a.numbers[i]), show(b.numbers[i])};
     }
   }
   return {};
@@ -78,8 +78,8 @@ bool isFair(const Job& job) {
   }
   for (const auto& [text, handle] : keptTexts()) {
     if (std::memcmp(text.c_str(), handle.get(), (text.size() + 1) * sizeof(char16_t)) != 0) {
-      return complain("a run changes its text:\n  " + printed(text, 0) + "\n  " +
-                      printed(handle.get(), 0));
+      return complain("a run changes its text:\n  " + show(text, 0) + "\n  " +
+                      show(handle.get(), 0));
     }
   }
   return true;

@@ -36,7 +36,7 @@ std::string printedExponent(int exponent, const std::string& pattern) {
 
 }  // namespace
 
-std::string printed(double value, const std::string& pattern) {
+std::string formatNumber(double value, const std::string& pattern) {
   if (!std::isfinite(value)) return format("%.*f", 0, value);
   const std::size_t exponentAt = std::min(pattern.find('E'), pattern.size());
   const std::string mantissa = pattern.substr(0, exponentAt);

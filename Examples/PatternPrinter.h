@@ -7,6 +7,6 @@
 // `value` by `pattern`: digits "0" (always printed) and "#" (printed when significant) around a
 // point, and optionally "E-" or "E+" with the digits of the exponent. A number has 15 significant
 // digits.
-std::string printed(double value, const std::string& pattern);
+std::string formatNumber(double value, const std::string& pattern);
 
 #endif

@@ -7,7 +7,7 @@ namespace {
 constexpr char32_t kReplacement = 0xFFFD;
 
 // The code point at `at`, which moves past it; kReplacement for a byte that begins none.
-char32_t decoded(const std::string& utf8, std::size_t& at) {
+char32_t decode(const std::string& utf8, std::size_t& at) {
   const auto byte = [&utf8](std::size_t i) { return static_cast<std::uint8_t>(utf8[i]); };
   const std::uint8_t lead = byte(at++);
   if (lead < 0x80) return lead;
@@ -41,7 +41,7 @@ void append(std::string& utf8, char32_t value) {
 std::u16string unitsOfUtf8(const std::string& utf8) {
   std::u16string units;
   for (std::size_t at = 0; at < utf8.size();) {
-    const char32_t value = decoded(utf8, at);
+    const char32_t value = decode(utf8, at);
     if (value < 0x10000) {
       units += static_cast<char16_t>(value);
     } else {

@@ -32,18 +32,18 @@ class Report {
  private:
   // A host string that the report owns, whether it made it or a routine gave it.
   using Owned = std::unique_ptr<char16_t, void (*)(BSTR)>;
-  Owned owned(BSTR handle) const { return {handle, host_.releaseBSTR}; }
+  Owned own(BSTR handle) const { return {handle, host_.releaseBSTR}; }
   Owned text(const std::string& utf8) const {
-    return owned(host_.SysAllocString16(unitsOfUtf8(utf8).c_str()));
+    return own(host_.SysAllocString16(unitsOfUtf8(utf8).c_str()));
   }
 
   // The text of a result, which is released.
-  std::string taken(BSTR result) const { return utf8OfUnits(owned(result).get()); }
+  std::string take(BSTR result) const { return utf8OfUnits(own(result).get()); }
 
   // Calls a host routine with texts and scalars, and takes its result.
   template <typename Routine, typename... Arguments>
   std::string call(Routine routine, const Arguments&... arguments) const {
-    return taken(routine(argument(arguments)...));
+    return take(routine(argument(arguments)...));
   }
   struct Argument {
     Owned handle;
@@ -59,7 +59,7 @@ class Report {
   }
 
   // `text` and blanks up to a width in code points.
-  static std::string padded(const std::string& text, std::size_t width) {
+  static std::string pad(const std::string& text, std::size_t width) {
     std::size_t length = 0;
     for (const char unit : text) length += (unit & 0xC0) != 0x80 ? 1 : 0;
     return length < width ? text + std::string(width - length, ' ') : text;
@@ -67,8 +67,8 @@ class Report {
 
   static void printRow(const std::vector<std::string>& cells, std::size_t first,
                        std::size_t width) {
-    std::string line = "  " + padded(cells[0], first);
-    for (std::size_t i = 1; i < cells.size(); ++i) line += padded(cells[i], width);
+    std::string line = "  " + pad(cells[0], first);
+    for (std::size_t i = 1; i < cells.size(); ++i) line += pad(cells[i], width);
     line.erase(line.find_last_not_of(' ') + 1);
     std::printf("%s\n", line.c_str());
   }
@@ -98,7 +98,7 @@ class Report {
   }
 
   void printText(const char* what, const std::string& before, const std::string& after) const {
-    std::string line = "  " + padded(what, 28) + padded("«" + before + "»", 32) + "«" + after + "»";
+    std::string line = "  " + pad(what, 28) + pad("«" + before + "»", 32) + "«" + after + "»";
     std::printf("%s\n", line.c_str());
   }
 
@@ -134,7 +134,8 @@ class Report {
     const std::string optimal = call(host_.VB_OptimalFormat, value, 3, -1, -1);
     char given[32];
     std::snprintf(given, sizeof given, "%.15g", value);
-    printRow({given, optimal, printed(value, optimal), shown, printed(value, shown)}, 20, 25);
+    printRow({given, optimal, formatNumber(value, optimal), shown, formatNumber(value, shown)}, 20,
+             25);
   }
 
   void printNumbers() const {
@@ -146,9 +147,9 @@ class Report {
     }
     BSTR formats[1] = {};
     host_.VB_SetFormat(formats, 1, 5, -1);
-    const std::string fiveDigits = taken(formats[0]);
+    const std::string fiveDigits = take(formats[0]);
     std::printf("\n  Pi with the pattern of five digits, %s: %s\n", fiveDigits.c_str(),
-                printed(3.14159265358979, fiveDigits).c_str());
+                formatNumber(3.14159265358979, fiveDigits).c_str());
   }
 
   void printStatistics() const {
@@ -178,7 +179,7 @@ class Report {
 
   // A number by the pattern that shows its decimals.
   std::string number(double value) const {
-    return printed(value, call(host_.VB_OutputFormat, value));
+    return formatNumber(value, call(host_.VB_OutputFormat, value));
   }
 
   HostLibrary host_;

@@ -31,11 +31,11 @@ TEST(Services, TextEndsAtItsFirstZeroUnit) {
   char16_t units[] = u"ab\0cd";
   BSTR handle = units, null = nullptr;
   EXPECT_EQ(wcslen16(units), 2U);
-  EXPECT_EQ(taken(SysAllocString16(units)), L"ab");
+  EXPECT_EQ(take(SysAllocString16(units)), L"ab");
   EXPECT_EQ(convertBSTRtoWstring(handle), L"ab");
-  EXPECT_EQ(taken(convertWstringToBSTR(L"ab\0cd"s)), L"ab");
+  EXPECT_EQ(take(convertWstringToBSTR(L"ab\0cd"s)), L"ab");
   EXPECT_EQ(convertBSTRtoWstring(null), L"");
-  EXPECT_EQ(taken(SysAllocString16(nullptr)), L"");
+  EXPECT_EQ(take(SysAllocString16(nullptr)), L"");
   releaseBSTR(nullptr);
 }
 

@@ -79,8 +79,8 @@ TEST(PhrasesPage, Wrapping) {
   std::vector<Cells> rows;
   for (const char16_t* const text : {u"units", u"(units)", u""}) {
     const B handle(text);
-    rows.push_back({inGuillemets(handle.text()), inGuillemets(taken(VB_SpStrSp(handle))),
-                    inGuillemets(taken(VB_PStrP(handle))), inGuillemets(taken(VB_BStrB(handle)))});
+    rows.push_back({inGuillemets(handle.text()), inGuillemets(take(VB_SpStrSp(handle))),
+                    inGuillemets(take(VB_PStrP(handle))), inGuillemets(take(VB_BStrB(handle)))});
   }
   expectTable(kPage, {"Text", "`VB_SpStrSp`", "`VB_PStrP`", "`VB_BStrB`"}, rows);
 }

@@ -15,6 +15,6 @@ TEST(PatternPrinter, Rows) {
         Row(123456, "0.000E+0", "1.235E+5"), Row(-0.00009, "0.000E-0", "-9.000E-5"),
         Row(1.5e10, "0.0E-0", "1.5E10"), Row(12345678901.5, "0.00E+00", "1.23E+10"),
         Row(3e-5, all + "E-#", "3E-5"), Row(kInf, "0.0E+0", "inf")}) {
-    EXPECT_EQ(printed(value, pattern), expected) << value << " as " << pattern;
+    EXPECT_EQ(formatNumber(value, pattern), expected) << value << " as " << pattern;
   }
 }

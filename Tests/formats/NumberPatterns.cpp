@@ -19,11 +19,10 @@ TEST(NumberPatterns, ByDigitsIntoAnArray) {
       VB_SetFormat(host, count, digits, digitsOverride);
       for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(wide[i], i < count ? pattern : L"stays")
+            << "element " << i << " after " << showCall("SetFormat", count, digits, digitsOverride);
+        EXPECT_EQ(take(host[i]), i < count ? pattern : kNullHandle)
             << "element " << i << " after "
-            << shownCall("SetFormat", count, digits, digitsOverride);
-        EXPECT_EQ(taken(host[i]), i < count ? pattern : kNullHandle)
-            << "element " << i << " after "
-            << shownCall("VB_SetFormat", count, digits, digitsOverride);
+            << showCall("VB_SetFormat", count, digits, digitsOverride);
       }
     }
   }

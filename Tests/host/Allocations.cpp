@@ -48,7 +48,7 @@ struct Strings {
   }
   Texts texts() const {
     Texts texts;
-    for (const BSTR handle : handles) texts.push_back(widened(handle));
+    for (const BSTR handle : handles) texts.push_back(widen(handle));
     return texts;
   }
   std::list<B> owners;
@@ -80,7 +80,7 @@ void expectAllMayFail(const std::string& name, const Texts& texts, const Call& c
       worksAgain = call(strings) == expected;
     }).join();
     const auto when = [&] {
-      return name + " of " + shown(texts[0]) + "..., when allocation " + std::to_string(failing) +
+      return name + " of " + show(texts[0]) + "..., when allocation " + std::to_string(failing) +
              " failed";
     };
     ASSERT_EQ(liveAllocations, liveBefore) << when();
@@ -95,7 +95,7 @@ Text setHostFormats(const Strings&) {
     BSTR handles[3] = {};
   } formats;
   VB_SetFormat(formats.handles, 3, 300, -1);
-  return widened(formats.handles[2]);
+  return widen(formats.handles[2]);
 }
 
 Text setFormats(const Strings&) {
@@ -129,13 +129,13 @@ TEST(Allocations, EachMayFail) {
           {"VB_SetFormat", setHostFormats},
           {"SetFormat", setFormats},
           {"DecimalFormat", [](const Strings&) { return DecimalFormat(300); }},
-          {"Cpp_DecimalFormat", [](const Strings&) { return taken(Cpp_DecimalFormat(300)); }},
+          {"Cpp_DecimalFormat", [](const Strings&) { return take(Cpp_DecimalFormat(300)); }},
           {"StrLCase", [&](const Strings&) { return StrLCase(text); }},
           {"RemoveColon", [&](const Strings&) { return RemoveColon(text); }},
           {"RemoveSemicolon", [&](const Strings&) { return RemoveSemicolon(text); }},
           {"Replace", [&](const Strings&) { return Replace(text, texts[1], texts[2]); }},
           {"Replace", [&](const Strings&) { return Replace(text, L"a", longer.c_str()); }},
-          {"SysAllocString2", [](const Strings&) { return taken(SysAllocString2(L"\x1F600")); }}};
+          {"SysAllocString2", [](const Strings&) { return take(SysAllocString2(L"\x1F600")); }}};
       for (const HostRoutine& routine : routines) {
         calls.emplace_back(routine.name,
                            [&](const Strings& s) { return routine.call(s.handles.data()); });

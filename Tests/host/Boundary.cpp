@@ -30,5 +30,5 @@ TEST(Boundary, TextEndsAtItsFirstZeroUnit) {
   char16_t units[] = u"ab\0cd";
   EXPECT_EQ(convToWstring(units), L"ab");
   EXPECT_EQ(convToWstring(nullptr), L"");
-  EXPECT_EQ(taken(VB_StrConcat(units, units, nullptr, nullptr, nullptr, nullptr)), L"abab");
+  EXPECT_EQ(take(VB_StrConcat(units, units, nullptr, nullptr, nullptr, nullptr)), L"abab");
 }

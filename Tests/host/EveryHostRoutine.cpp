@@ -11,10 +11,10 @@ namespace {
 using Argument = const char16_t*;
 using Arguments = std::vector<Argument>;
 
-std::string shownArguments(const HostRoutine& routine, const Arguments& arguments) {
+std::string showArguments(const HostRoutine& routine, const Arguments& arguments) {
   std::string list;
   for (const Argument argument : arguments) {
-    list += (list.empty() ? "" : ", ") + (argument ? shown(widened(argument)) : shown(nullptr));
+    list += (list.empty() ? "" : ", ") + (argument ? show(widen(argument)) : show(nullptr));
   }
   return routine.name + "(" + list + ")";
 }
@@ -27,7 +27,7 @@ void check(const HostRoutine& routine, const Arguments& arguments) {
   bool ends = false;
   for (const Argument argument : arguments) {
     ends |= path.endsAtNull && argument == nullptr && handles.size() < 2;
-    texts.push_back(argument == nullptr ? L"" : widened(argument));
+    texts.push_back(argument == nullptr ? L"" : widen(argument));
     handles.push_back(argument == nullptr ? nullptr : BSTR(owners.emplace_back(texts.back())));
   }
   const bool inPlace = !ends && routine.worksInPlace(texts);
@@ -48,13 +48,13 @@ void check(const HostRoutine& routine, const Arguments& arguments) {
   const std::size_t aliveBefore = recording.alive.size();
   recording.calls.clear();
   const Text result = routine.call(handles.data());
-  ASSERT_EQ(recording.calls, calls) << "of " << shownArguments(routine, arguments);
-  ASSERT_EQ(recording.alive.size(), aliveBefore) << "of " << shownArguments(routine, arguments);
-  ASSERT_EQ(result, expected) << "of " << shownArguments(routine, arguments);
+  ASSERT_EQ(recording.calls, calls) << "of " << showArguments(routine, arguments);
+  ASSERT_EQ(recording.alive.size(), aliveBefore) << "of " << showArguments(routine, arguments);
+  ASSERT_EQ(result, expected) << "of " << showArguments(routine, arguments);
   if (inPlace) texts[0] = result;
   for (std::size_t i = 0; i < handles.size(); ++i) {
-    ASSERT_EQ(handles[i] == nullptr ? L"" : widened(handles[i]), texts[i])
-        << "argument " << i << " after " << shownArguments(routine, arguments);
+    ASSERT_EQ(handles[i] == nullptr ? L"" : widen(handles[i]), texts[i])
+        << "argument " << i << " after " << showArguments(routine, arguments);
   }
 }
 

@@ -87,11 +87,11 @@ void check(const HostRoutine& routine, const Texts& texts) {
   std::vector<BSTR> handles;
   for (const Text& text : texts) {
     const std::size_t i = handles.size();
-    handles.push_back(pages[i].hold(narrowed(text), inPlace && i == 0));
+    handles.push_back(pages[i].hold(narrow(text), inPlace && i == 0));
   }
   ASSERT_EQ(routine.call(handles.data()), expected) << calling;
   if (inPlace) {
-    ASSERT_EQ(widened(handles[0]), expected) << calling;
+    ASSERT_EQ(widen(handles[0]), expected) << calling;
   }
 }
 
@@ -123,12 +123,12 @@ TEST_F(GuardPages, Pointers) {
     const Text pattern(size, L'a'), with(size, L'b');
     ASSERT_EQ(Replace(L"-" + pattern + L"-", pages[0].hold(pattern), pages[1].hold(with)),
               L"-" + with + L"-");
-    ASSERT_EQ(taken(SysAllocString2(pages[0].hold(with))), with);
+    ASSERT_EQ(take(SysAllocString2(pages[0].hold(with))), with);
     calling = "VB_SetFormat of an array of " + std::to_string(size);
     const std::vector<BSTR> unset(size);
     BSTR* const formats = pages[0].hold(std::span(unset), true);
     VB_SetFormat(formats, static_cast<int32_t>(size), 2, -1);
-    for (std::size_t i = 0; i < size; ++i) ASSERT_EQ(taken(formats[i]), L"0.0");
+    for (std::size_t i = 0; i < size; ++i) ASSERT_EQ(take(formats[i]), L"0.0");
   }
   calling = "SwapLng, SwapDbl, SwapStr";
   const auto expectSwap = [](auto routine, auto a, auto b) {

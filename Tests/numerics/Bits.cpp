@@ -43,7 +43,7 @@ void read(std::istream& row, double& x) {
 }
 
 template <typename... Numbers>
-std::string shown(Numbers... numbers) {
+std::string show(Numbers... numbers) {
   std::ostringstream text;
   [[maybe_unused]] const char* separator = "";
   ((text << std::setprecision(17) << std::exchange(separator, ", ") << numbers), ...);
@@ -60,7 +60,7 @@ template <typename... Arguments>
 double answer(const char* function, Arguments... arguments) {
   const auto found = answers.find({function, {bitsOf(arguments)...}});
   if (found != answers.end()) return found->second;
-  unanswered += std::string("\n  calls    ") + function + '(' + shown(arguments...) + ')';
+  unanswered += std::string("\n  calls    ") + function + '(' + show(arguments...) + ')';
   return 0.0;
 }
 
@@ -71,7 +71,7 @@ template <typename Result, typename... Parameters>
 Check of(Result (*routine)(Parameters...)) {
   return [routine](std::istream& row) -> std::string {
     const auto readAll = [&](auto&... numbers) { (read(row, numbers), ...); };
-    const auto showAll = [](auto... numbers) { return shown(numbers...); };
+    const auto showAll = [](auto... numbers) { return show(numbers...); };
     const auto allBits = [](auto... numbers) { return std::vector{bitsOf(numbers)...}; };
     std::tuple<Parameters...> arguments;
     std::apply(readAll, arguments);

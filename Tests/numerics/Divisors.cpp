@@ -32,7 +32,7 @@ TEST(Divisors, OfDecimals) {
     const int32_t a = random.integer(), b = random.integer();
     const double expected = static_cast<double>(std::gcd(int64_t{a}, int64_t{b})) / scale;
     EXPECT_NEAR(LCDDbl(a / scale, b / scale), expected, 4e-16 * expected)
-        << shownCall("LCDDbl", a / scale, b / scale);
+        << showCall("LCDDbl", a / scale, b / scale);
   }
 }
 

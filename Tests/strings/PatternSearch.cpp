@@ -9,7 +9,7 @@ TEST(PatternSearch, TwoWayFindsWhatTheLibraryFinds) {
     for (const Text& text : textsUpTo(11)) {
       const std::size_t from = text.size() / 3;
       ASSERT_EQ(search.find<wchar_t>(text, from), text.find(pattern, from))
-          << shownCall("TwoWaySearch::find", pattern, text, from);
+          << showCall("TwoWaySearch::find", pattern, text, from);
     }
   }
 }

@@ -14,7 +14,7 @@ void expectReplaced(const Text& pattern, const Text& with, const Text& text) {
   EXPECT_GIVES(replace, expected, text, pattern, with);
   const bool inPlace = pattern.size() == 1 && with.size() == 1;
   EXPECT_EQ(handle.text(), inPlace ? expected : text)
-      << "the text after " << shownCall("VB_Replace", text, pattern, with);
+      << "the text after " << showCall("VB_Replace", text, pattern, with);
 }
 
 void expectReplacedTwice(const Text& pattern1, const Text& with1, const Text& pattern2,
@@ -67,10 +67,10 @@ TEST(Replacement, OneForOneWritesOnlyWhatChanges) {
   // A text in memory that cannot be written stays whole where nothing is to be replaced.
   static const char16_t kFixed[] =
       u"a text that does not hold the unit and is longer than one block of them";
-  EXPECT_EQ(taken(VB_Replace(const_cast<BSTR>(kFixed), B(u"#"), B(u"x"))), widened(kFixed));
+  EXPECT_EQ(take(VB_Replace(const_cast<BSTR>(kFixed), B(u"#"), B(u"x"))), widen(kFixed));
   // What stands behind the end of a text stays too.
   std::u16string units(300, u'-');
   units[200] = 0;
-  EXPECT_EQ(taken(VB_Replace(units.data(), B(u"-"), B(u"+"))), Text(200, L'+'));
+  EXPECT_EQ(take(VB_Replace(units.data(), B(u"-"), B(u"+"))), Text(200, L'+'));
   EXPECT_EQ(units.substr(201), std::u16string(99, u'-'));
 }

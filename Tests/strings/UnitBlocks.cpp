@@ -11,14 +11,14 @@ TEST(UnitBlocks, VectorsMatchWhatThePlainFormMatches) {
         for (std::size_t at = 0; at < quvard::kBlockUnits; ++at) {
           Text block(quvard::kBlockUnits, others);
           block[at] = unit;
-          const std::u16string narrow = narrowed(block);
+          const std::u16string narrowBlock = narrow(block);
           const auto sought16 = static_cast<char16_t>(sought);
           EXPECT_EQ(quvard::blockMatches(block.data(), sought),
                     quvard::plainBlockMatches(block.data(), sought))
-              << shownCall("blockMatches", block, Text(1, sought));
-          EXPECT_EQ(quvard::blockMatches(narrow.data(), sought16),
-                    quvard::plainBlockMatches(narrow.data(), sought16))
-              << shownCall("blockMatches", widened(narrow), Text(1, sought16));
+              << showCall("blockMatches", block, Text(1, sought));
+          EXPECT_EQ(quvard::blockMatches(narrowBlock.data(), sought16),
+                    quvard::plainBlockMatches(narrowBlock.data(), sought16))
+              << showCall("blockMatches", widen(narrowBlock), Text(1, sought16));
         }
       },
       units, units, units);
@@ -30,7 +30,7 @@ TEST(UnitBlocks, EveryLength) {
       Text text(size, L'a');
       text[at] = L'b';
       ASSERT_EQ(quvard::matches<wchar_t>(text, L'b'), uint64_t{1} << at)
-          << shownCall("matches", text, L"b");
+          << showCall("matches", text, L"b");
     }
   }
 }

@@ -17,7 +17,7 @@ inline constexpr int32_t kHighest = std::numeric_limits<int32_t>::max();
 inline double above(double x) { return std::nextafter(x, kInf); }
 inline double below(double x) { return std::nextafter(x, -kInf); }
 
-inline int32_t truncated(double x) {
+inline int32_t truncate(double x) {
   return std::fabs(std::trunc(x)) <= kHighest ? static_cast<int32_t>(x) : kLowest;
 }
 

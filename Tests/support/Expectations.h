@@ -23,7 +23,7 @@ auto row(Columns... columns) {
 
 // A value as a failure shows it; of a long text the units around a place.
 inline constexpr std::size_t kAround = 30;
-inline std::string shown(const Text& text, std::size_t place = 0) {
+inline std::string show(const Text& text, std::size_t place = 0) {
   const std::size_t start = place < kAround ? 0 : std::min(place, text.size()) - kAround;
   std::ostringstream out;
   out << (start > 0 ? "...\"" : "\"");
@@ -38,23 +38,23 @@ inline std::string shown(const Text& text, std::size_t place = 0) {
   if (text.size() > 2 * kAround) out << " of " << text.size() << " units";
   return out.str();
 }
-inline std::string shown(std::nullptr_t, std::size_t = 0) { return "null"; }
+inline std::string show(std::nullptr_t, std::size_t = 0) { return "null"; }
 template <typename Number>
-requires std::is_arithmetic_v<Number> std::string shown(Number number, std::size_t = 0) {
+requires std::is_arithmetic_v<Number> std::string show(Number number, std::size_t = 0) {
   std::ostringstream out;
   out << std::setprecision(17) << number;
   return out.str();
 }
 
 template <typename... Arguments>
-std::string shownCall(const std::string& routine, const Arguments&... arguments) {
+std::string showCall(const std::string& routine, const Arguments&... arguments) {
   std::string list;
-  ((list += (list.empty() ? "" : ", ") + shown(arguments)), ...);
+  ((list += (list.empty() ? "" : ", ") + show(arguments)), ...);
   return routine + "(" + list + ")";
 }
 
 // Results as they are compared: texts and numbers.
-inline Text comparable(BSTR result) { return taken(result); }
+inline Text comparable(BSTR result) { return take(result); }
 inline Text comparable(const Text& text) { return text; }
 inline Text comparable(const B& string) { return string.text(); }
 template <typename Number>
@@ -79,14 +79,14 @@ testing::AssertionResult isSame(const Actual& actual, const Expected& expected, 
   if (same(actual, expected) || hasToldEnough()) return testing::AssertionSuccess();
   const std::size_t place = firstDifference(actual, expected);
   return testing::AssertionFailure()
-         << call() << "\n  gives    " << shown(actual, place) << "\n  expected "
-         << shown(expected, place)
+         << call() << "\n  gives    " << show(actual, place) << "\n  expected "
+         << show(expected, place)
          << (place >= kAround ? "\n  first difference at unit " + std::to_string(place) : "");
 }
 
 testing::AssertionResult gives(const char* routine, const auto& call, const auto& expected,
                                const auto&... arguments) {
-  const auto shownHere = [&] { return shownCall(routine, arguments...); };
+  const auto shownHere = [&] { return showCall(routine, arguments...); };
   try {
     return isSame(comparable(call(arguments...)), comparable(expected), shownHere);
   } catch (const std::exception& exception) {

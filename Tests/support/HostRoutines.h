@@ -48,7 +48,7 @@ struct HostRoutine {
   }
 };
 
-inline Text textOf(BSTR result) { return taken(result); }
+inline Text textOf(BSTR result) { return take(result); }
 inline Text textOf(const Text& result) { return result; }
 inline Text textOf(std::int32_t result) { return std::to_wstring(result); }
 
@@ -62,15 +62,15 @@ template <typename Result, typename... Parameters, typename Wide, typename... Sc
 HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide,
                       Scalars... scalars) {
   constexpr std::size_t count = sizeof...(Parameters) - sizeof...(Scalars);
-  const auto called = [=](auto routine, const auto& strings) {
+  const auto call = [=](auto routine, const auto& strings) {
     return [&]<std::size_t... i>(std::index_sequence<i...>) {
       return routine(strings[i]..., scalars...);
     }
     (std::make_index_sequence<count>());
   };
-  return {name, count, [=](Handles s) { return textOf(called(host, s)); },
-          [=](Handles s) { discard(called(host, s)); },
-          [=](const Texts& t) { return textOf(called(wide, t)); }};
+  return {name, count, [=](Handles s) { return textOf(call(host, s)); },
+          [=](Handles s) { discard(call(host, s)); },
+          [=](const Texts& t) { return textOf(call(wide, t)); }};
 }
 
 // The numbers that the routines are given beside their strings.

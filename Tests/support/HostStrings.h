@@ -12,9 +12,9 @@ using Text = std::wstring;
 using namespace std::string_literals;
 
 // 16-bit text as wide text, one unit for one.
-inline Text widened(const std::u16string& text) { return {text.begin(), text.end()}; }
+inline Text widen(const std::u16string& text) { return {text.begin(), text.end()}; }
 
-inline std::u16string narrowed(const Text& text) { return {text.begin(), text.end()}; }
+inline std::u16string narrow(const Text& text) { return {text.begin(), text.end()}; }
 
 // Each 16-bit unit but zero, in order.
 inline Text allUnits() {
@@ -27,12 +27,12 @@ inline Text allUnits() {
 class B {
  public:
   explicit B(const std::u16string& text) : handle_(SysAllocString16(text.c_str())) {}
-  explicit B(const Text& text) : B(narrowed(text)) {}
+  explicit B(const Text& text) : B(narrow(text)) {}
   B(const B&) = delete;
   B& operator=(const B&) = delete;
   ~B() { releaseBSTR(handle_); }
   operator BSTR() const { return handle_; }
-  Text text() const { return widened(handle_); }
+  Text text() const { return widen(handle_); }
 
  private:
   BSTR handle_;
@@ -42,10 +42,10 @@ class B {
 inline const Text kNullHandle = L"(null handle)";
 
 // The text of a result, which is released.
-inline Text taken(BSTR result) {
+inline Text take(BSTR result) {
   if (result == nullptr) return kNullHandle;
   const std::unique_ptr<char16_t, void (*)(BSTR)> owner(result, releaseBSTR);
-  return widened(result);
+  return widen(result);
 }
 
 #endif

@@ -190,10 +190,10 @@ inline double Fact(int32_t n) {
 inline double Cnk(double n, double k) {
   if (k > n) return 0.0;
   if (k == n || k == 0.0) return 1.0;
-  int32_t m = truncated(n - k);
+  int32_t m = truncate(n - k);
   double q = k;
   if (m > k) {
-    m = truncated(k);
+    m = truncate(k);
     q = n - m;
   }
   double r = 1.0 + q;
@@ -203,7 +203,7 @@ inline double Cnk(double n, double k) {
 
 inline double SumCnk(double n, double from, double to) {
   double sum = 0.0;
-  for (double i = truncated(from); i <= kHighest && to >= i; i += 1.0) sum += ::Cnk(n, i);
+  for (double i = truncate(from); i <= kHighest && to >= i; i += 1.0) sum += ::Cnk(n, i);
   return sum;
 }
 
@@ -214,14 +214,14 @@ inline double Mod(int32_t a, int32_t b) {
 // Euclid's algorithm, with the floored remainder.
 inline double LCD2(double a, double b) {
   while (b != 0.0) {
-    const double r = Mod(truncated(a), truncated(b));
+    const double r = Mod(truncate(a), truncate(b));
     a = b;
     b = r;
   }
   return std::fabs(a);
 }
 
-inline int32_t LCD(int32_t a, int32_t b) { return truncated(LCD2(a, b)); }
+inline int32_t LCD(int32_t a, int32_t b) { return truncate(LCD2(a, b)); }
 
 }  // namespace stepwise
 
