@@ -73,7 +73,8 @@ std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view c
 // the start of `chars`, the longest such number (Knuth, Morris and Pratt, 1977).
 using Match = uint32_t;
 
-// One more unit. `borders[n]` is the longest match of the first n units, but for all n of them.
+// One more unit. `borders[n]`, for n from 1 on, is the longest match of the first n units that is not
+// all of them.
 Match extendMatch(Match match, wchar_t unit, std::wstring_view chars, const Match* borders) {
   while (match > 0 && chars[match] != unit) match = borders[match];
   return match + (chars[match] == unit ? 1 : 0);
@@ -81,7 +82,6 @@ Match extendMatch(Match match, wchar_t unit, std::wstring_view chars, const Matc
 
 // Writes the borders of `chars`, which is not empty.
 void findBorders(std::wstring_view chars, Match* borders) {
-  borders[0] = 0;
   borders[1] = 0;
   for (std::size_t i = 1; i < chars.size(); ++i) {
     borders[i + 1] = extendMatch(borders[i], chars[i], chars, borders);
