@@ -67,6 +67,12 @@ interface_needs=(
 libcxx_needs=(
   "c++/v1/string.h:libc++-dev libc++abi-dev:llvm"
 )
+fuzz_needs=(
+  "${build_needs[@]}"
+  gtest/gtest.h:libgtest-dev:googletest
+  clang++:clang:xcode
+  libfuzzer:libclang-rt-dev:llvm
+)
 valgrind_needs=(
   valgrind/valgrind.h:valgrind:
 )
@@ -216,6 +222,11 @@ has_header() {
   return 1
 }
 
+has_libfuzzer() {
+  echo 'extern "C" int LLVMFuzzerTestOneInput(const char*, long) { return 0; }' |
+    clang++ -fsanitize=fuzzer -x c++ - -o /dev/null 2>/dev/null
+}
+
 # Whether a row of the tables above is there.
 has() {
   local need=${1%%:*}
@@ -224,6 +235,7 @@ has() {
   case $need in
     cmake) has_cmake ;;
     /*) [ -e "$need" ] || ! command -v apt-get >/dev/null ;;
+    libfuzzer) has_libfuzzer ;;
     *.h | *.hpp) has_header "$need" ;;
     python3-*) /usr/bin/python3 -c "import ${need#python3-}" 2>/dev/null ;;
     *) command -v "$need" >/dev/null ;;

@@ -13,17 +13,6 @@ TEST(Divisors, OfIntegersNearTheLimits) {
   EXPECT_SAME(IsEvenLng, isEven, integers);
 }
 
-TEST(Divisors, AsStepwise) {
-  Random random;
-  for (int i = 0; i < 20000 && !HasFailure(); ++i) {
-    const double edge = random.edge(), other = random.edge();
-    const double large = random.between(-3e9, 3e9), small = random.between(-9.0, 9.0);
-    expectSame("LCD2", LCD2, stepwise::LCD2, large, edge);
-    expectSame("LCD2", LCD2, stepwise::LCD2, edge, small);
-    expectSame("LCD2", LCD2, stepwise::LCD2, edge, other);
-  }
-}
-
 // Of i / 10^places and j / 10^places, i and j of any size that fits 32 bits.
 TEST(Divisors, OfDecimals) {
   Random random;

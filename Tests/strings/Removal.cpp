@@ -1,21 +1,7 @@
-#include "support/Random.h"
 #include "support/SmallScopes.h"
 
 TEST(Removal, CharOfEveryShortText) {
   EXPECT_SAME(RemoveChar, stepwise::RemoveChar, textsUpTo(11), textsUpTo(6));
-}
-
-TEST(Removal, CharOfLongerTexts) {
-  Random random;
-  for (int i = 0; i < 4000; ++i) {
-    // A long pattern that occurs, overlaps and comes together.
-    const Text word = random.text(L"ab", 3) + L"a";
-    Text s, chars = L"b";
-    while (chars.size() < 18) chars += word;
-    for (int k = 0; k < 4; ++k) s += random.text(L"ab", 3) + chars.substr(random.below(18));
-    s += chars + word + chars;
-    ASSERT_GIVES(RemoveChar, stepwise::RemoveChar(s, chars), s, chars);
-  }
 }
 
 TEST(Removal, CharIsOnePass) {

@@ -1,4 +1,3 @@
-#include "support/Random.h"
 #include "support/SmallScopes.h"
 
 namespace {
@@ -32,16 +31,6 @@ TEST(Replacement, InEveryShortText) {
 TEST(Replacement, TwiceInEveryShortText) {
   const auto parts = textsUpTo(2);
   forEach(expectReplacedTwice, parts, parts, parts, parts, textsUpTo(5));
-}
-
-TEST(Replacement, InLongerTexts) {
-  Random random;
-  for (int i = 0; i < 4000 && !HasFailure(); ++i) {
-    const Text pattern = random.text(L"ab", 20), with = random.text(L"abc", 40);
-    const Text text = random.text(L"ab", 300) + pattern + Text(random.below(50), L'c') + pattern;
-    expectReplaced(pattern, with, text);
-    expectReplacedTwice(pattern, with, L"ba", pattern, text);
-  }
 }
 
 TEST(Replacement, WideTextsMayHoldZeroUnits) {

@@ -130,12 +130,14 @@ inline Text cStrBetweenChrAndChr(const Text& text, const Text& opening, const Te
   return end == text.npos ? L"" : text.substr(start, end - start);
 }
 
-inline Text Replace(Text text, const Text& pattern, const Text& replacement) {
-  if (pattern.empty()) return text;
-  for (std::size_t at = 0; (at = text.find(pattern, at)) != text.npos; at += replacement.size()) {
-    text = text.substr(0, at) + replacement + text.substr(at + pattern.size());
+inline Text Replace(const Text& text, const Text& pattern, const Text& replacement) {
+  Text result;
+  std::size_t from = 0;
+  for (std::size_t at; !pattern.empty() && (at = text.find(pattern, from)) != text.npos;) {
+    result += text.substr(from, at - from) + replacement;
+    from = at + pattern.size();
   }
-  return text;
+  return result + text.substr(from);
 }
 
 inline Text VB_Replace2(const Text& text, const Text& pattern1, const Text& replacement1,
@@ -222,6 +224,57 @@ inline double LCD2(double a, double b) {
 }
 
 inline int32_t LCD(int32_t a, int32_t b) { return truncate(LCD2(a, b)); }
+
+inline bool isTrue(HostBool flag) { return (flag & 0xFFFF) == 0xFFFF; }
+
+inline int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x, double* y,
+                              HostBool forward) {
+  if (x1 == x2) {
+    *x = x1;
+    *y = (y1 + y2) * 0.5;
+    return -1;
+  }
+  const double a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1);
+  if (!isTrue(forward) && a == 0.0) return -1;
+  isTrue(forward) ? * y = b + a** x : * x = (*y - b) / a;
+  return 0;
+}
+
+inline int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2, double y3,
+                                 double* x, double* xSecond, double* y, HostBool forward) {
+  if (x1 == x2 || x2 == x3 || x1 == x3) return -1;
+  const double xs[] = {x1, x2, x3, x1, x2}, ys[] = {y1, y2, y3, y1, y2};
+  const auto divisor = [&](int i) {
+    return (xs[i] + xs[i + 1]) * xs[i + 2] - (xs[i] + xs[i + 2]) * xs[i + 1];
+  };
+  const auto divides = [](double value) { return value < 0.0 || value > 0.0; };
+  int i = divides(divisor(0)) ? 0 : divides(divisor(1)) ? 1 : 2, j = i + 1;
+  const int k = i + 2;
+  const double factor = (1.0 / divisor(i)) / ((xs[j] - xs[i]) * (xs[k] - xs[i]));
+  const double p = ((xs[j] * xs[j]) * ys[i] - (xs[i] * xs[i]) * ys[j]) * ((xs[k] - xs[i]) * xs[k]);
+  const double q = ((xs[i] * xs[i]) * ys[k] - (xs[k] * xs[k]) * ys[i]) * ((xs[j] - xs[i]) * xs[j]);
+  const double c = (q + p) * factor;
+  i = divides(x1 * x2) ? 0 : divides(x2 * x3) ? 1 : 2, j = i + 1;
+  const double ii = xs[i] * xs[i], jj = xs[j] * xs[j];
+  const double b =
+      ((jj * ys[i] + (ii - jj) * c) - ii * ys[j]) / ((xs[i] * xs[j]) * (xs[j] - xs[i]));
+  i = x1 * x1 == 0.0 ? 1 : 0;
+  const double a = ((ys[i] - xs[i] * b) - c) / (xs[i] * xs[i]);
+  if (isTrue(forward)) {
+    *y = c + (b + a * *x) * *x;
+  } else if (a != 0.0) {
+    const double discriminant = (c - *y) * (-4.0 * a) + b * b;
+    const double root = 0.0 > discriminant ? -kExtreme : std::sqrt(discriminant);
+    const double lower = a > 0.0 ? -b - root : root - b, upper = a > 0.0 ? root - b : -b - root;
+    *x = (lower * 0.5) / a;
+    *xSecond = (0.5 * upper) / a;
+  } else if (b != 0.0) {
+    *x = (*y - c) / b;
+  } else {
+    return -1;
+  }
+  return 0;
+}
 
 }  // namespace stepwise
 

@@ -1,0 +1,100 @@
+// What is fuzzed. Each check draws a call, compares it with the plain steps, and tells what differs.
+#ifndef TESTS_FUZZ_CHECKS_H
+#define TESTS_FUZZ_CHECKS_H
+
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+#include "support/Expectations.h"
+#include "support/Random.h"
+#include "support/Stepwise.h"
+
+testing::AssertionResult checkHostRoutine(Random& random);
+testing::AssertionResult checkWideRoutine(Random& random);
+testing::AssertionResult checkFormat(Random& random);
+testing::AssertionResult checkNumeric(Random& random);
+
+// Tells a call before it is made, if the environment has QUVARD_CALLS: a call that a sanitizer ends
+// has no other way to.
+inline void announce(const auto& call) {
+  static const bool isAskedFor = std::getenv("QUVARD_CALLS") != nullptr;
+  if (isAskedFor) std::fprintf(stderr, "%s\n", call().c_str());
+}
+
+// If the number in `choice` has come down to 0, compares a routine with what a namespace has under
+// its name.
+#define CHECK(steps, routine, ...) CHECK_GIVES(routine, steps::routine(__VA_ARGS__), __VA_ARGS__)
+#define CHECK_GIVES(routine, expected, ...)                         \
+  if (choice-- == 0)                                                \
+  return announce([&] { return showCall(#routine, __VA_ARGS__); }), \
+         GIVES(routine, expected, __VA_ARGS__)
+
+// A part of a text: units, words that mean something, or units of another text.
+inline Text drawPart(Random& random, const std::vector<Text>& others) {
+  static const std::vector<Text> alphabets{
+      L"ab",
+      L" :;a",
+      L"<BRQMC>",
+      L"0129,",
+      L"()/",
+      L"AZaz@[`{",
+      L"a\x10061\x80000061\xFFFF\x10000\xD83D\xDE00\x7FFFFFFF"s + L'\0'};
+  static const std::vector<Text> words{L"ES", L"FR", L"IT", L"PT",   L"PL",   L"US",  L"DE",
+                                       L"JP", L"CS", L"CN", L"<BR>", L"<QM>", L"<CM>"};
+  const std::size_t choice = random.below(alphabets.size() + 5);
+  if (choice < alphabets.size()) {
+    const std::size_t longest[] = {3, 20, 70};
+    return random.text(alphabets[choice], longest[random.below(3)]);
+  }
+  if (choice == alphabets.size() || others.empty()) return words[random.below(words.size())];
+  const Text& other = others[random.below(others.size())];
+  const std::size_t at = random.below(other.size() + 1);
+  return other.substr(at, random.below(other.size() - at + 1));
+}
+
+// A text in which others may well occur, and which may occur in them: of one part, or of several,
+// some of which come more than once. Not so long that two replacements would take long.
+inline Text drawText(Random& random, const std::vector<Text>& others) {
+  Text text = drawPart(random, others);
+  for (std::size_t joins = random.below(2) * random.below(6); joins > 0; --joins) {
+    text += random.below(2) == 0 ? text : drawPart(random, others);
+  }
+  return text.substr(0, 200);
+}
+
+// Small ones above all.
+inline int32_t drawInteger(Random& random) {
+  return random.below(2) == 0 ? static_cast<int32_t>(random.below(80)) - 8 : random.integer();
+}
+
+// Few enough for a pattern in memory.
+inline int32_t drawDecimals(Random& random) { return std::min(drawInteger(random), 400); }
+
+inline HostBool drawFlag(Random& random) {
+  constexpr HostBool kFlags[] = {0, -1, 1, 0x10000, 0xFFFF, 0x18000};
+  const std::size_t choice = random.below(std::size(kFlags) + 1);
+  return choice < std::size(kFlags) ? kFlags[choice] : random.integer();
+}
+
+// At an edge, a quarter, a power of ten, or anywhere; and then perhaps off by little.
+inline double drawDouble(Random& random) {
+  double x = random.edge();
+  const std::size_t choice = random.below(5);
+  if (choice == 1) x = random.between(-9.0, 9.0);
+  if (choice == 2) x = drawInteger(random) * 0.25;
+  if (choice == 3) x = drawInteger(random) / std::pow(10.0, static_cast<double>(random.below(10)));
+  if (choice == 4) x = std::pow(10.0, static_cast<double>(random.below(50)) - 30.0);
+  switch (random.below(6)) {
+    case 0:
+      return x + random.between(-2e-12, 2e-12);
+    case 1:
+      return x * (1.0 + random.between(-1e-4, 1e-4));
+    case 2:
+      return std::bit_cast<double>(std::bit_cast<uint64_t>(x) + random.below(9) - 4);
+    default:
+      return x;
+  }
+}
+
+#endif

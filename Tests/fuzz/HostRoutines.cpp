@@ -1,0 +1,78 @@
+// Host routines, given null handles, one handle twice, and handles into another's text.
+#include <list>
+
+#include "fuzz/Checks.h"
+#include "support/HostRoutines.h"
+
+namespace {
+
+// A host string, and what it is to hold.
+struct Owner {
+  explicit Owner(const Text& units) : handle(units), text(handle.text()) {}
+  B handle;
+  Text text;
+};
+
+struct Argument {
+  Owner* owner = nullptr;  // none for the null handle
+  std::size_t start = 0;   // where in the text of the owner the handle points to
+
+  BSTR handle() const { return owner == nullptr ? nullptr : owner->handle + start; }
+  Text text() const { return owner == nullptr ? L"" : owner->text.substr(start); }
+};
+
+Argument draw(Random& random, std::list<Owner>& owners, const std::vector<Argument>& drawn) {
+  const std::size_t choice = random.below(6);
+  if (choice == 0) return {};
+  if (choice < 3 && !drawn.empty()) {
+    Argument argument = drawn[random.below(drawn.size())];
+    if (choice == 1) argument.start += random.below(argument.text().size() + 1);
+    return argument;
+  }
+  Texts texts;
+  for (const Owner& owner : owners) texts.push_back(owner.text);
+  return {&owners.emplace_back(drawText(random, texts))};
+}
+
+}  // namespace
+
+testing::AssertionResult checkHostRoutine(Random& random) {
+  static Numbers numbers;
+  static const std::vector<HostRoutine> routines = hostRoutines(numbers);
+  const HostRoutine& routine = routines[random.below(routines.size())];
+  numbers = {drawInteger(random), drawInteger(random), drawDecimals(random), drawFlag(random),
+             drawFlag(random),    drawFlag(random),    drawDouble(random)};
+  std::list<Owner> owners;
+  std::vector<Argument> arguments;
+  Texts texts;
+  std::vector<BSTR> handles;
+  bool ends = false;
+  for (std::size_t i = 0; i < routine.strings; ++i) {
+    const Argument argument = arguments.emplace_back(draw(random, owners, arguments));
+    handles.push_back(argument.handle());
+    texts.push_back(argument.text());
+    ends |= routine.path->endsAtNull && argument.owner == nullptr && i < 2;
+  }
+  const Text expected =
+      ends && !routine.path->result.empty() ? kNullHandle : routine.expected(texts);
+  const auto call = [&] {
+    std::string list;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+      list += (i > 0 ? ", " : "") + (arguments[i].owner == nullptr ? "null" : show(texts[i])) +
+              (arguments[i].start > 0 ? " (the end of another)" : "");
+    }
+    return routine.name + "(" + list + ")" +
+           showCall(" with the numbers ", numbers.from, numbers.to, numbers.decimals, numbers.flag1,
+                    numbers.flag2, numbers.flag3, numbers.value);
+  };
+  announce(call);
+  auto result = isSame(routine.call(handles.data()), expected, call);
+  if (!ends && routine.worksInPlace(texts)) {
+    arguments[0].owner->text.replace(arguments[0].start, expected.size(), expected);
+  }
+  for (const Owner& owner : owners) {
+    if (!result) break;
+    result = isSame(owner.handle.text(), owner.text, [&] { return "an argument of " + call(); });
+  }
+  return result;
+}

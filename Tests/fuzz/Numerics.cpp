@@ -1,0 +1,95 @@
+// Numerics, given the same variable for two results too.
+#include <array>
+
+#include "../Benchmarks/Transcriptions.h"
+#include "fuzz/Checks.h"
+
+namespace {
+
+namespace transcribed = benchmarks::transcribed;
+
+using Variables = std::array<double, 3>;
+
+// The status of a call and what it leaves in its variables, two of which may be one.
+testing::AssertionResult checkOutcome(Random& random, const std::string& call, auto routine,
+                                      auto steps) {
+  announce([&] { return call; });
+  Variables actual;
+  for (double& variable : actual) variable = drawDouble(random);
+  const Variables before = actual;
+  Variables expected = actual;
+  const std::size_t i = random.below(3), j = random.below(3), k = random.below(3);
+  const int32_t status = routine(&actual[i], &actual[j], &actual[k]);
+  const int32_t expectedStatus = steps(&expected[i], &expected[j], &expected[k]);
+  const bool isSame = std::equal(actual.begin(), actual.end(), expected.begin(),
+                                 [](double x, double y) { return same(x, y); });
+  if (status == expectedStatus && isSame) return testing::AssertionSuccess();
+  const auto show = [](const char* what, int32_t number, const Variables& v) {
+    return showCall(what, number, v[0], v[1], v[2]);
+  };
+  return testing::AssertionFailure()
+         << call << show(" of the variables ", static_cast<int32_t>(100 * i + 10 * j + k), before)
+         << show("\n  gives    ", status, actual)
+         << show("\n  expected ", expectedStatus, expected);
+}
+
+}  // namespace
+
+testing::AssertionResult checkNumeric(Random& random) {
+  std::size_t choice = random.below(33);
+  const double a = drawDouble(random), b = drawDouble(random), c = drawDouble(random);
+  const int32_t m = drawInteger(random), n = drawInteger(random);
+  const HostBool flag1 = drawFlag(random), flag2 = drawFlag(random);
+  const double near = truncate(b) + random.between(-2, 90);
+  const double whole = static_cast<double>(random.below(1030));
+  CHECK(transcribed, sqr, a);
+  CHECK(transcribed, expm1x, a);
+  CHECK(transcribed, ASin, a);
+  CHECK(transcribed, LogExpAPlusExpB, a, b);
+  CHECK(transcribed, GammaLn, a);
+  CHECK(transcribed, ModDbl, a, b);
+  CHECK(transcribed, IsLongP, a, b);
+  CHECK(transcribed, IsLong, a);
+  CHECK(transcribed, IsEven, a);
+  CHECK(transcribed, IsEvenLng, n);
+  CHECK(transcribed, Int05, a, flag1);
+  CHECK(transcribed, Int05c, a, flag1);
+  CHECK(transcribed, Int05LU, a, flag1, flag2);
+  CHECK(transcribed, LCDDbl, a, b);
+  CHECK(stepwise, Fact, n);
+  CHECK(stepwise, Cnk, a, b);
+  CHECK(stepwise, Cnk, whole, std::fabs(n));
+  CHECK(stepwise, SumCnk, a, b, near);
+  CHECK(stepwise, Mod, m, n);
+  CHECK(stepwise, LCD, m, n);
+  CHECK(stepwise, LCD2, a, b);
+  CHECK_GIVES(Min, a < b ? a : b, a, b);
+  CHECK_GIVES(Max, a > b ? a : b, a, b);
+  CHECK_GIVES(FSgn, transcribed::signOf(a), a);
+  CHECK_GIVES(FSign, b < 0.0 ? -std::fabs(a) : std::fabs(a), a, b);
+  CHECK_GIVES(Log10, std::log10(a), a);
+  CHECK_GIVES(spow, std::pow(a, b), a, b);
+  const double y1 = drawDouble(random), y2 = drawDouble(random), y3 = drawDouble(random);
+  const auto linear = [&](auto routine) {
+    return [=](double* x, double*, double* y) { return routine(a, b, y1, y2, x, y, flag1); };
+  };
+  const auto quadratic = [&](auto routine) {
+    return [=](double* x, double* second, double* y) {
+      return routine(a, b, c, y1, y2, y3, x, second, y, flag1);
+    };
+  };
+  const auto swap = [](auto routine) {
+    return [=](double* x, double* y, double*) { return routine(*x, *y), 0; };
+  };
+  switch (choice) {
+    case 0:
+      return checkOutcome(random, "SwapDbl", swap([](double& x, double& y) { SwapDbl(&x, &y); }),
+                          swap([](double& x, double& y) { std::swap(x, y); }));
+    case 1:
+      return checkOutcome(random, showCall("LinearInterpol", a, b, y1, y2, flag1),
+                          linear(LinearInterpol), linear(stepwise::LinearInterpol));
+    default:
+      return checkOutcome(random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, flag1),
+                          quadratic(QuadraticInterpol), quadratic(stepwise::QuadraticInterpol));
+  }
+}
