@@ -1,4 +1,4 @@
-// The two tests of a HostBool, which reads its low 16 bits alone: compilers differ on who extends a
+// The two tests of a HostBool, which read its low 16 bits alone: compilers differ on who extends a
 // 16-bit argument.
 #ifndef QUVARDBS1C_HOST_HOSTBOOL_H
 #define QUVARDBS1C_HOST_HOSTBOOL_H

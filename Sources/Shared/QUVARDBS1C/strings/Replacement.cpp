@@ -1,7 +1,10 @@
 #include "strings/Replacement.h"
 
+#include <cstddef>
 #include <new>
 #include <span>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "host/Boundary.h"

@@ -48,8 +48,8 @@ class Replaced {
 
  private:
   // Copies what is between two occurrences. Most gaps are short, and a whole block is copied sooner
-  // than so many units. The units too many are written over later: the room is enough, for the
-  // result has no fewer units to come than the text.
+  // than so many units. The units too many are written over later, or left out in the end: the room
+  // is enough, for no less of it is left than of the text.
   wchar_t* copyGap(std::size_t from, std::size_t to, wchar_t* out) const {
     if (to - from > kBlockUnits || text_.size() - from < kBlockUnits) {
       return copyUnits(text_.substr(from, to - from), out);

@@ -2,6 +2,7 @@
 #ifndef QUVARDBS1C_STRINGS_WIDEFORM_H
 #define QUVARDBS1C_STRINGS_WIDEFORM_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
