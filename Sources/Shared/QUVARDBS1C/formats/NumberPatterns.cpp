@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
+#include <iterator>
 #include <string_view>
 
 #include "host/Boundary.h"
@@ -15,6 +17,8 @@ using quvard::isSet;
 using quvard::kWholeTolerance;
 using quvard::toWstring;
 using quvard::TruncLng;
+
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -33,7 +37,8 @@ struct DecimalPattern {
       *out++ = L'.';
       out = std::fill_n(out, decimals, L'0');
     }
-    return quvard::copyUnits(exponentPart, out);
+    for (const wchar_t unit : exponentPart) *out++ = unit;
+    return out;
   }
 };
 
@@ -56,31 +61,55 @@ const wchar_t* outputPattern(double value) {
   return isNearWhole(value) ? L"0E-#" : L"0.###################E-#";
 }
 
-// The decimal exponent truncated toward zero.
-int32_t exponentOf(double magnitude) { return TruncLng(std::log10(magnitude)); }
+// The powers of ten with an exponent of at most kHighestPower either way.
+constexpr int32_t kHighestPower = 15;
+constexpr double kPowersOfTen[] = {1e-15, 1e-14, 1e-13, 1e-12, 1e-11, 1e-10, 1e-9, 1e-8,
+                                   1e-7,  1e-6,  1e-5,  1e-4,  1e-3,  1e-2,  1e-1, 1e0,
+                                   1e1,   1e2,   1e3,   1e4,   1e5,   1e6,   1e7,  1e8,
+                                   1e9,   1e10,  1e11,  1e12,  1e13,  1e14,  1e15};
+static_assert(std::size(kPowersOfTen) == 2 * kHighestPower + 1);
 
-const wchar_t* exponentPart(double magnitude, int32_t decimals) {
-  // Away from the powers of ten at which the part changes it is known without a logarithm.
-  if (decimals > 0) {
-    if (magnitude > 0.11 && magnitude < 99999) return L"";
-    if (magnitude > 100001 && magnitude < 9.9e9) return L"E+0";
+constexpr double powerOfTen(int32_t exponent) { return kPowersOfTen[exponent + kHighestPower]; }
+
+// The logarithm and the power of the platform are slow. They are asked only where a value is so close
+// to a limit that their last bits may decide; they err by far less than this.
+constexpr double kDoubt = 1e-9;
+
+// The decimal exponent truncated toward zero.
+int32_t exponentOf(double magnitude) {
+  int32_t floor = 0;
+  while (floor + 1 < kHighestPower && magnitude >= powerOfTen(floor + 1)) ++floor;
+  while (floor > -kHighestPower && magnitude < powerOfTen(floor)) --floor;
+  const bool isBetween = magnitude > powerOfTen(floor) * (1.0 + kDoubt) &&
+                         magnitude < powerOfTen(floor + 1) * (1.0 - kDoubt);
+  if (isBetween) return floor < 0 ? floor + 1 : floor;
+  return TruncLng(std::log10(magnitude));
+}
+
+std::wstring_view exponentPart(int32_t exponent, int32_t decimals) {
+  if (exponent < -int64_t{decimals}) return exponent <= -10 ? L"E-00"sv : L"E-0"sv;
+  if (exponent >= 5) return exponent >= 10 ? L"E+00"sv : L"E+0"sv;
+  return {};
+}
+
+bool isScaledJustOffWhole(double value, int32_t exponent) {
+  if (std::abs(exponent) <= kHighestPower) {
+    const double scaled = value * powerOfTen(-exponent);
+    const double beyondWhole = std::abs(TruncLng(scaled) - scaled);
+    if (beyondWhole > kDoubt && beyondWhole < 1.0 - kDoubt) return false;
   }
-  const int32_t exponent = exponentOf(magnitude);
-  if (exponent < -int64_t{decimals}) return exponent <= -10 ? L"E-00" : L"E-0";
-  if (exponent >= 5) return exponent >= 10 ? L"E+00" : L"E+0";
-  return L"";
+  return isJustOffWhole(std::pow(10.0, -static_cast<double>(exponent)) * value);
 }
 
 DecimalPattern optimalPattern(double value, int32_t decimals, HostBool useExponent,
                               HostBool keepDecimals) {
   const double magnitude = std::abs(value);
   const bool mayScale = isSet(useExponent) && magnitude > kWholeTolerance && !std::isinf(magnitude);
-  const std::wstring_view scale = mayScale ? exponentPart(magnitude, decimals) : L"";
+  const int32_t exponent = mayScale ? exponentOf(magnitude) : 0;
+  const std::wstring_view scale = mayScale ? exponentPart(exponent, decimals) : L""sv;
 
-  const bool isPlain =
-      isJustOffWhole(value) ||
-      (!scale.empty() && !isSet(keepDecimals) &&
-       isJustOffWhole(std::pow(10.0, -static_cast<double>(exponentOf(magnitude))) * value));
+  const bool isPlain = isJustOffWhole(value) || (!scale.empty() && !isSet(keepDecimals) &&
+                                                 isScaledJustOffWhole(value, exponent));
   return {isPlain ? 0 : decimals, scale};
 }
 
