@@ -61,7 +61,7 @@ concept HostArgument = std::same_as<Argument, BSTR> || HostNumber<Argument>;
 // service.
 inline std::wstring_view bufferOf(BSTR handle) {
   if (handle == nullptr) return {};
-  return CW162W32(handle);
+  return viewOf(CW162W32(handle));
 }
 
 // The units of a host string where they are.

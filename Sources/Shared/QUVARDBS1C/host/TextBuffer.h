@@ -15,6 +15,19 @@ namespace quvard {
 // Texts of up to this many units need no memory from the heap.
 inline constexpr std::size_t kUnitsInPlace = 64;
 
+// The units of a text that the sibling library has just written. A read of many units at once would
+// wait for the processor to have stored them, so the first ones are read one by one.
+inline std::wstring_view viewOf(const wchar_t* text) {
+  constexpr std::size_t kFirst = 64;
+  constexpr std::size_t kStep = 4;
+  for (std::size_t start = 0; start < kFirst; start += kStep) {
+    for (std::size_t i = start; i < start + kStep; ++i) {
+      if (text[i] == 0) return {text, i};
+    }
+  }
+  return {text, kFirst + std::char_traits<wchar_t>::length(text + kFirst)};
+}
+
 // A text of wide units for the length of a call, with a zero unit after it: in place up to a number
 // of units, on the heap above.
 template <std::size_t unitsInPlace>
@@ -35,22 +48,18 @@ class BasicTextBuffer {
 
   // Adds the units of a text that ends at its first zero unit.
   void append(const wchar_t* text) {
-    // The first ones are copied while the end is sought. The sibling library has just written them,
-    // and a read of many units at once would wait for the processor to have stored them all.
-    constexpr std::size_t kFirst = 16;
-    constexpr std::size_t kStep = 4;
-    if (room_ - size_ >= kFirst) {
-      for (std::size_t start = 0; start < kFirst; start += kStep) {
-        for (std::size_t i = start; i < start + kStep; ++i) {
-          units_[size_ + i] = text[i];
-          if (text[i] == 0) {
-            size_ += i;
-            return;
-          }
+    // The first ones are copied one by one while the end is sought, for the reason told above.
+    constexpr std::size_t kStep = 8;
+    for (; size_ + kStep <= unitsInPlace; text += kStep) {
+      wchar_t* const out = units_ + size_;
+      for (std::size_t i = 0; i < kStep; ++i) {
+        out[i] = text[i];
+        if (text[i] == 0) {
+          size_ += i;
+          return;
         }
       }
-      size_ += kFirst;
-      text += kFirst;
+      size_ += kStep;
     }
     const std::wstring_view rest(text);
     reserve(size_ + rest.size());
