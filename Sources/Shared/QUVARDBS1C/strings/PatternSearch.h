@@ -115,7 +115,7 @@ class PatternSearch {
     std::size_t found = View::npos;
     search(text, [&found](std::size_t at) {
       found = at;
-      return false;
+      return View::npos;
     });
     return found;
   }
@@ -125,9 +125,19 @@ class PatternSearch {
   template <typename TextUnit, typename Visit>
   void forEach(std::basic_string_view<TextUnit> text, Visit visit) const {
     if (pattern_.empty()) return;
-    search(text, [&visit](std::size_t at) {
+    search(text, [&](std::size_t at) {
       visit(at);
-      return true;
+      return at + pattern_.size();
+    });
+  }
+
+  // The same with the occurrences that overlap the one before.
+  template <typename TextUnit, typename Visit>
+  void forEachOverlapping(std::basic_string_view<TextUnit> text, Visit visit) const {
+    if (pattern_.empty()) return;
+    search(text, [&](std::size_t at) {
+      visit(at);
+      return at + 1;
     });
   }
 
@@ -143,13 +153,13 @@ class PatternSearch {
   // A pattern up to this length wastes at most its few units at each position of a text.
   static constexpr std::size_t kShort = 16;
 
-  // Goes on as long as `visit` returns true.
+  // Goes on where `visit` tells; npos ends the search.
   template <typename TextUnit, typename Visit>
   void search(std::basic_string_view<TextUnit> text, Visit visit) const {
     std::size_t from = 0;
     if (long_) {
-      for (; (from = long_->find(text, from)) != View::npos && visit(from);) {
-        from += pattern_.size();
+      while (from != View::npos && (from = long_->find(text, from)) != View::npos) {
+        from = visit(from);
       }
       return;
     }
@@ -166,8 +176,8 @@ class PatternSearch {
       for (; candidates != 0; candidates &= candidates - 1) {
         const std::size_t at = stretch + static_cast<std::size_t>(std::countr_zero(candidates));
         if (at < from || !isAt(text, at)) continue;
-        if (!visit(at)) return;
-        from = at + pattern_.size();
+        from = visit(at);
+        if (from == View::npos) return;
       }
     }
   }

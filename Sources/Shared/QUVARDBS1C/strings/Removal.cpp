@@ -49,26 +49,43 @@ auto digitsOf(std::wstring_view text) {
 
 Replaced<char16_t, char16_t> withoutColons(std::u16string_view text) { return {text, u":", {}}; }
 
-// Takes the first unit out of the leftmost occurrence of `chars` until there is none, and gives what
-// is left. After each removal up to twice the length of `chars` is searched again.
-std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
-  const quvard::PatternSearch<wchar_t> search(chars);
-  wchar_t* const end = text.data() + text.size();
-  wchar_t* kept = text.data();  // end of what is searched
-  wchar_t* next = text.data();  // start of what is not
-  for (;;) {
-    const std::wstring_view rest(next, static_cast<std::size_t>(end - next));
-    const std::size_t at = search.find(rest);
-    kept = copyUnits(rest.substr(0, at), kept);
-    if (at == rest.npos) return {text.data(), kept};
-    next += at + 1;
-    // An occurrence may begin among the last units before the gap, so these are searched again,
-    // moved to its other side.
-    const std::ptrdiff_t again =
-        std::min(kept - text.data(), static_cast<std::ptrdiff_t>(chars.size()) - 1);
-    next = std::copy_backward(kept - again, kept, next);
-    kept -= again;
+// Whether the units from `at` to `kept`, and then those of `rest`, begin with `chars`.
+bool isAcross(const wchar_t* at, const wchar_t* kept, std::wstring_view rest,
+              std::wstring_view chars) {
+  const std::size_t before = std::min(static_cast<std::size_t>(kept - at), chars.size());
+  return std::equal(at, at + before, chars.begin()) && rest.starts_with(chars.substr(before));
+}
+
+// A unit is missing between the units kept and the rest of the text, so an occurrence of `chars` may
+// reach from the last ones kept into the rest. Takes the first unit out of the leftmost such
+// occurrence until there is none, and returns the end of the units kept.
+wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, std::wstring_view rest,
+                         std::wstring_view chars) {
+  const auto reach = static_cast<std::ptrdiff_t>(chars.size()) - 1;
+  wchar_t* at = kept - std::min(kept - start, reach);
+  while (at < kept) {
+    if (*at != chars.front() || !isAcross(at, kept, rest, chars)) {
+      ++at;
+      continue;
+    }
+    kept = std::copy(at + 1, kept, at);
+    at -= std::min(at - start, reach);
   }
+  return kept;
+}
+
+// Takes the first unit out of the leftmost occurrence of `chars` until there is none, and gives what
+// is left. The units after the gap stay as they are, so what is found among them stays found.
+std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
+  const std::wstring_view searched(text.data(), text.size());
+  wchar_t* kept = text.data();
+  std::size_t next = 0;
+  quvard::PatternSearch<wchar_t>(chars).forEachOverlapping(searched, [&](std::size_t at) {
+    kept = copyUnits(searched.substr(next, at - next), kept);
+    next = at + 1;
+    kept = removeAcrossGap(text.data(), kept, searched.substr(next), chars);
+  });
+  return {text.data(), copyUnits(searched.substr(next), kept)};
 }
 
 // How far a text matches `chars`: for each place in the text, the number of units before it that are
