@@ -20,9 +20,15 @@ namespace {
 std::wstring replaceIn(std::wstring text, std::wstring_view pattern,
                        std::wstring_view replacement) {
   const Replaced<wchar_t, wchar_t> result(text, pattern, replacement);
-  const std::size_t room = result.room();
-  if (room > text.max_size()) throw std::bad_alloc();
-  if (room > text.size()) return quvard::toWstring(result);
+  if (result.mayGrow()) {
+    const std::size_t size = result.size();
+    if (size > text.max_size()) throw std::bad_alloc();
+    if (size > text.size()) {
+      std::wstring grown(size, L'\0');
+      result.write(grown.data());
+      return grown;
+    }
+  }
   quvard::overwrite(text, result);
   return text;
 }

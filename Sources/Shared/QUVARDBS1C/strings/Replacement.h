@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "host/Draft.h"
+#include "host/TextBuffer.h"
 #include "strings/PatternSearch.h"
 
 namespace quvard {
@@ -25,9 +25,17 @@ class Replaced {
 
   bool mayGrow() const { return replacement_.size() > pattern_.size(); }
 
+  // The number of units of a result that may grow.
+  std::size_t size() const { return text_.size() + search_.count(text_) * growth(); }
+
+  // Occurrences are counted only where a buffer in place may be too small for the most there can be.
   std::size_t room() const {
-    if (!mayGrow()) return text_.size();
-    return text_.size() + search_.count(text_) * (replacement_.size() - pattern_.size());
+    if (!mayGrow() || pattern_.empty()) return text_.size();
+    if (text_.size() <= kUnitsInPlace && growth() <= kUnitsInPlace) {
+      const std::size_t most = text_.size() + text_.size() / pattern_.size() * growth();
+      if (most <= kUnitsInPlace) return most;
+    }
+    return size();
   }
 
   // May write over the text unless it may grow.
@@ -47,6 +55,8 @@ class Replaced {
   }
 
  private:
+  std::size_t growth() const { return replacement_.size() - pattern_.size(); }
+
   // Copies what is between two occurrences. Most gaps are short, and a whole block is copied sooner
   // than so many units. The units too many are written over later, or left out in the end: the room
   // is enough, for no less of it is left than of the text.
