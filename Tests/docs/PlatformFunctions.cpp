@@ -73,7 +73,7 @@ TEST(NumbersPage, FunctionsOfThePlatform) {
   Cells none;
   for (const auto& [name, call] : routines) {
     calls().clear();
-    for (const double a : {0.5, 3.0, 100.0, 1000.0, 123456.5}) call(a);
+    for (const double a : {0.5, 3.0, 100.0, 1000.0, 0.001}) call(a);
     if (calls().empty()) {
       none.push_back("`" + name + "`");
     } else {
