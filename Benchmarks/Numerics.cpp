@@ -202,24 +202,29 @@ void addRoundingJobs() {
   });
 }
 
+template <auto routine>
+double linear(double x1, double x2, double y1, double y2, double x) {
+  double y = 0;
+  routine(x1, x2, y1, y2, &x, &y, -1);
+  return y;
+}
+
+template <auto routine>
+double quadratic(double x1, double x2, double x3, double y1, double y2, double y3, double x) {
+  double y = 0, second = 0;
+  routine(x1, x2, x3, y1, y2, y3, &x, &second, &y, -1);
+  return y;
+}
+
 void addInterpolationJobs() {
-  const auto linear = +[](double x1, double x2, double y1, double y2, double x) {
-    double y = 0;
-    LinearInterpol(x1, x2, y1, y2, &x, &y, -1);
-    return y;
-  };
-  addNumeric("LinearInterpol", linear, transcribed::linear, [](std::mt19937& random) {
-    const double x1 = between(random, 0, 1), y1 = between(random, 0, 1), y2 = between(random, 0, 1);
-    return std::tuple{x1, x1 + 1, y1, y2, between(random, 0, 2)};
-  });
-  const auto quadratic =
-      +[](double x1, double x2, double x3, double y1, double y2, double y3, double x) {
-        double y = 0, second = 0;
-        QuadraticInterpol(x1, x2, x3, y1, y2, y3, &x, &second, &y, -1);
-        return y;
-      };
+  addNumeric("LinearInterpol", linear<LinearInterpol>, linear<transcribed::LinearInterpol>,
+             [](std::mt19937& random) {
+               const double x1 = between(random, 0, 1), y1 = between(random, 0, 1),
+                            y2 = between(random, 0, 1);
+               return std::tuple{x1, x1 + 1, y1, y2, between(random, 0, 2)};
+             });
   addNumeric(
-      "QuadraticInterpol", quadratic, transcribed::quadratic,
+      "QuadraticInterpol", quadratic<QuadraticInterpol>, quadratic<transcribed::QuadraticInterpol>,
       [](std::mt19937& random) {
         const double x1 = between(random, 1, 2), y1 = between(random, 0, 1);
         const double y2 = between(random, 0, 1), y3 = between(random, 0, 1);

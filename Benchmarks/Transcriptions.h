@@ -1,4 +1,5 @@
-// The steps of the numeric contracts, written down plainly, with the bits of their results.
+// The steps of the numeric contracts, written down plainly, with the bits of their results: what tests
+// compare with, and what benchmarks time the routines against.
 #ifndef BENCHMARKS_TRANSCRIPTIONS_H
 #define BENCHMARKS_TRANSCRIPTIONS_H
 
@@ -11,11 +12,11 @@
 #include "numerics/Constants.h"
 #include "numerics/TruncLng.h"
 
-namespace benchmarks {
-
 namespace transcribed {
 
 using quvard::TruncLng;
+
+inline bool isTrue(HostBool flag) { return (flag & 0xFFFF) == 0xFFFF; }
 
 inline double sqr(double x) { return 0.0 > x ? -quvard::ExtremeDbl : std::sqrt(x); }
 
@@ -48,12 +49,14 @@ inline double GammaLn(double x) {
   return std::log(6.5 + x) * (x + (-0.5)) + u;
 }
 
+// From 171 on it is infinite.
 inline double Fact(int32_t n) {
   double r = 1.0;
-  for (int32_t i = 2; i <= n; ++i) r = r * i;
+  for (int32_t i = 2; i <= std::min(n, 171); ++i) r = r * i;
   return r;
 }
 
+// An r that is infinite, or NaN, stays so.
 inline double Cnk(double n, double k) {
   if (k > n) return 0.0;
   if (k == n || k == 0.0) return 1.0;
@@ -61,15 +64,18 @@ inline double Cnk(double n, double k) {
   const int32_t m = t > k ? TruncLng(k) : t;
   const double q = t > k ? n - m : k;
   double r = 1.0 + q;
-  for (int32_t i = 2; i <= m; ++i) r = ((q + i) * r) / i;
+  for (int32_t i = 2; i <= m && std::isfinite(r); ++i) r = ((q + i) * r) / i;
   return r;
 }
 
-inline double SumCnk(double n, double from, double to) {
+// The sum of given terms, in order.
+inline double sumOf(auto term, double n, double from, double to) {
   double sum = 0.0;
-  for (int32_t k = TruncLng(from); to >= k; ++k) sum = sum + Cnk(n, k);
+  for (double k = TruncLng(from); k <= 2147483647.0 && to >= k; k += 1.0) sum = sum + term(n, k);
   return sum;
 }
+
+inline double SumCnk(double n, double from, double to) { return sumOf(Cnk, n, from, to); }
 
 inline int32_t Mod(int32_t a, int32_t b) {
   if (b == 0) return a;
@@ -81,7 +87,7 @@ inline double ModDbl(double a, double b) { return a - std::floor(a / b) * b; }
 
 inline int32_t LCD(int32_t a, int32_t b) {
   while (b != 0) a = std::exchange(b, Mod(a, b));
-  return a < 0 ? -a : a;
+  return TruncLng(std::fabs(a));
 }
 
 inline double LCD2(double a, double b) {
@@ -156,33 +162,63 @@ inline double Int05LU(double v, HostBool half, HostBool lower) {
   if (f == v) return v;
   const double g = 0.5 + f;
   const bool isHalf = (half & 0xFFFF) != 0;
-  if ((lower & 0xFFFF) == 0xFFFF) return isHalf && g <= v ? g : f;
+  if (isTrue(lower)) return isHalf && g <= v ? g : f;
   return isHalf && g >= v ? g : std::floor(1.0 + v);
 }
 
-inline double linear(double x1, double x2, double y1, double y2, double x) {
-  if (x1 == x2) return (y1 + y2) * 0.5;
-  const double a = (y2 - y1) / (x2 - x1);
-  const double b = (x2 * y1 - x1 * y2) / (x2 - x1);
-  return b + a * x;
+inline int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x, double* y,
+                              HostBool forward) {
+  if (x1 == x2) {
+    *x = x1;
+    *y = (y1 + y2) * 0.5;
+    return -1;
+  }
+  const double a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1);
+  if (isTrue(forward)) {
+    *y = b + a * *x;
+  } else if (a != 0.0) {
+    *x = (*y - b) / a;
+  } else {
+    return -1;
+  }
+  return 0;
 }
 
-// For three abscissae that are neither 0 nor equal.
-inline double quadratic(double x1, double x2, double x3, double y1, double y2, double y3,
-                        double x) {
-  const double D = (x1 + x2) * x3 - (x1 + x3) * x2;
-  const double K = (1.0 / D) / ((x2 - x1) * (x3 - x1));
-  const double P = (x2 * x2 * y1 - x1 * x1 * y2) * ((x3 - x1) * x3);
-  const double Q = (x1 * x1 * y3 - x3 * x3 * y1) * ((x2 - x1) * x2);
-  const double c = (Q + P) * K;
+inline int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2, double y3,
+                                 double* x, double* xSecond, double* y, HostBool forward) {
+  if (x1 == x2 || x2 == x3 || x1 == x3) return -1;
+  const double xs[] = {x1, x2, x3, x1, x2}, ys[] = {y1, y2, y3, y1, y2};
+  const auto divisor = [&](int i) {
+    return (xs[i] + xs[i + 1]) * xs[i + 2] - (xs[i] + xs[i + 2]) * xs[i + 1];
+  };
+  const auto divides = [](double value) { return value < 0.0 || value > 0.0; };
+  int i = divides(divisor(0)) ? 0 : divides(divisor(1)) ? 1 : 2, j = i + 1;
+  const int k = i + 2;
+  const double factor = (1.0 / divisor(i)) / ((xs[j] - xs[i]) * (xs[k] - xs[i]));
+  const double p = ((xs[j] * xs[j]) * ys[i] - (xs[i] * xs[i]) * ys[j]) * ((xs[k] - xs[i]) * xs[k]);
+  const double q = ((xs[i] * xs[i]) * ys[k] - (xs[k] * xs[k]) * ys[i]) * ((xs[j] - xs[i]) * xs[j]);
+  const double c = (q + p) * factor;
+  i = divides(x1 * x2) ? 0 : divides(x2 * x3) ? 1 : 2, j = i + 1;
+  const double ii = xs[i] * xs[i], jj = xs[j] * xs[j];
   const double b =
-      ((x2 * x2 * y1 + (x1 * x1 - x2 * x2) * c) - x1 * x1 * y2) / ((x1 * x2) * (x2 - x1));
-  const double a = ((y1 - x1 * b) - c) / (x1 * x1);
-  return c + (b + a * x) * x;
+      ((jj * ys[i] + (ii - jj) * c) - ii * ys[j]) / ((xs[i] * xs[j]) * (xs[j] - xs[i]));
+  i = x1 * x1 == 0.0 ? 1 : 0;
+  const double a = ((ys[i] - xs[i] * b) - c) / (xs[i] * xs[i]);
+  if (isTrue(forward)) {
+    *y = c + (b + a * *x) * *x;
+  } else if (a != 0.0) {
+    const double root = sqr((c - *y) * (-4.0 * a) + b * b);
+    const double lower = a > 0.0 ? -b - root : root - b, upper = a > 0.0 ? root - b : -b - root;
+    *x = (lower * 0.5) / a;
+    *xSecond = (0.5 * upper) / a;
+  } else if (b != 0.0) {
+    *x = (*y - c) / b;
+  } else {
+    return -1;
+  }
+  return 0;
 }
 
 }  // namespace transcribed
-
-}  // namespace benchmarks
 
 #endif

@@ -2,7 +2,6 @@
 // each routine calls.
 #include <dlfcn.h>
 
-#include <functional>
 #include <set>
 
 #include "docs/PageTable.h"
@@ -34,52 +33,29 @@ PASS_ON pow(double x, double y) noexcept { return passOn("pow", x, y); }
 }
 
 TEST(NumbersPage, FunctionsOfThePlatform) {
-  double x = 0.3, xSecond = 0.0, y = 0.4;
-  const std::vector<std::pair<std::string, std::function<void(double)>>> routines{
-      {"Pi", [](double) { Pi(); }},
-      {"sqr", [](double a) { sqr(a); }},
-      {"Log10", [](double a) { Log10(a); }},
-      {"spow", [](double a) { spow(a, 2); }},
-      {"expm1x", [](double a) { expm1x(a); }},
-      {"ASin", [](double a) { ASin(a); }},
-      {"Min", [](double a) { Min(a, 1); }},
-      {"Max", [](double a) { Max(a, 1); }},
-      {"FSgn", [](double a) { FSgn(a); }},
-      {"FSign", [](double a) { FSign(a, -1); }},
-      {"LogExpAPlusExpB", [](double a) { LogExpAPlusExpB(a, 1); }},
-      {"GammaLn", [](double a) { GammaLn(a); }},
-      {"Fact", [](double a) { Fact(int32_t(a)); }},
-      {"Cnk", [](double a) { Cnk(a, 3); }},
-      {"SumCnk", [](double a) { SumCnk(a, 0, 90); }},
-      {"Mod", [](double a) { Mod(int32_t(a), 3); }},
-      {"ModDbl", [](double a) { ModDbl(a, 3); }},
-      {"LCD", [](double a) { LCD(int32_t(a), 6); }},
-      {"LCD2", [](double a) { LCD2(a, 6); }},
-      {"LCDDbl", [](double a) { LCDDbl(a, 0.25); }},
-      {"IsLong", [](double a) { IsLong(a); }},
-      {"IsLongP", [](double a) { IsLongP(a, 0.25); }},
-      {"IsEven", [](double a) { IsEven(a); }},
-      {"IsEvenLng", [](double a) { IsEvenLng(int32_t(a)); }},
-      {"Int05", [](double a) { Int05(a, -1); }},
-      {"Int05c", [](double a) { Int05c(a, -1); }},
-      {"Int05LU", [](double a) { Int05LU(a, -1, -1); }},
-      {"LinearInterpol", [&](double a) { LinearInterpol(1, a, 2, 3, &x, &y, 0); }},
-      {"QuadraticInterpol",
-       [&](double a) { QuadraticInterpol(1, a, 7, 3, 9, 4, &x, &xSecond, &y, 0); }},
-      {"OutputFormat", [](double a) { OutputFormat(a); }},
-      {"OptimalFormat", [](double a) { OptimalFormat(a, 2, -1, 0); }},
-  };
-  std::vector<Cells> rows;
+  std::vector<Cells> rows{{"Routine", "Functions of the platform"}};
   Cells none;
-  for (const auto& [name, call] : routines) {
+  double y = 0.4, second = 0.0;
+  const auto add = [&](const char* name, auto call) {
     calls().clear();
-    for (const double a : {0.5, 3.0, 100.0, 1000.0, 0.001}) call(a);
+    for (const double x : {0.5, 3.0, 100.0, 1000.0, 0.001}) call(x, static_cast<int32_t>(x));
     if (calls().empty()) {
-      none.push_back("`" + name + "`");
+      none.push_back(name);
     } else {
-      rows.push_back({"`" + name + "`", listOf({calls().begin(), calls().end()})});
+      rows.push_back({name, listOf({calls().begin(), calls().end()})});
     }
-  }
+  };
+#define ADD(routine, ...) \
+  add("`" #routine "`",   \
+      [&]([[maybe_unused]] double x, [[maybe_unused]] int32_t i) { routine(__VA_ARGS__); })
+  ADD(Pi), ADD(sqr, x), ADD(Log10, x), ADD(spow, x, 2), ADD(expm1x, x), ADD(ASin, x);
+  ADD(Min, x, 1), ADD(Max, x, 1), ADD(FSgn, x), ADD(FSign, x, -1), ADD(LogExpAPlusExpB, x, 1);
+  ADD(GammaLn, x), ADD(Fact, i), ADD(Cnk, x, 3), ADD(SumCnk, x, 0, 90), ADD(Mod, i, 3);
+  ADD(ModDbl, x, 3), ADD(LCD, i, 6), ADD(LCD2, x, 6), ADD(LCDDbl, x, 0.25), ADD(IsLong, x);
+  ADD(IsLongP, x, 0.25), ADD(IsEven, x), ADD(IsEvenLng, i), ADD(Int05, x, -1);
+  ADD(Int05c, x, -1), ADD(Int05LU, x, -1, -1), ADD(LinearInterpol, 1, x, 2, 3, &second, &y, 0);
+  ADD(QuadraticInterpol, 1, x, 7, 3, 9, 4, &second, &second, &y, 0), ADD(OutputFormat, x);
+  ADD(OptimalFormat, x, 2, -1, 0);
   rows.push_back({listOf(none), "none"});
-  expectTable("numbers.md", {"Routine", "Functions of the platform"}, rows);
+  expectTable("numbers.md", rows);
 }

@@ -1,8 +1,6 @@
 // Host routines, given null handles, one handle twice, and handles into another's text.
-#include <list>
-
-#include "fuzz/Checks.h"
 #include "support/HostRoutines.h"
+#include "fuzz/Checks.h"
 
 namespace {
 
@@ -18,7 +16,7 @@ struct Argument {
   std::size_t start = 0;   // where in the text of the owner the handle points to
 
   BSTR handle() const { return owner == nullptr ? nullptr : owner->handle + start; }
-  Text text() const { return owner == nullptr ? L"" : owner->text.substr(start); }
+  Text text() const { return owner == nullptr ? kNullHandle : owner->text.substr(start); }
 };
 
 Argument draw(Random& random, std::list<Owner>& owners, const std::vector<Argument>& drawn) {
@@ -26,7 +24,9 @@ Argument draw(Random& random, std::list<Owner>& owners, const std::vector<Argume
   if (choice == 0) return {};
   if (choice < 3 && !drawn.empty()) {
     Argument argument = drawn[random.below(drawn.size())];
-    if (choice == 1) argument.start += random.below(argument.text().size() + 1);
+    if (choice == 1 && argument.owner != nullptr) {
+      argument.start += random.below(argument.text().size() + 1);
+    }
     return argument;
   }
   Texts texts;
@@ -46,28 +46,22 @@ testing::AssertionResult checkHostRoutine(Random& random) {
   std::vector<Argument> arguments;
   Texts texts;
   std::vector<BSTR> handles;
-  bool ends = false;
-  for (std::size_t i = 0; i < routine.strings; ++i) {
+  std::string starts;
+  while (texts.size() < routine.strings) {
     const Argument argument = arguments.emplace_back(draw(random, owners, arguments));
     handles.push_back(argument.handle());
     texts.push_back(argument.text());
-    ends |= routine.path->endsAtNull && argument.owner == nullptr && i < 2;
+    starts.append(" ").append(std::to_string(argument.start));
   }
-  const Text expected =
-      ends && !routine.path->result.empty() ? kNullHandle : routine.expected(texts);
   const auto call = [&] {
-    std::string list;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-      list += (i > 0 ? ", " : "") + (arguments[i].owner == nullptr ? "null" : show(texts[i])) +
-              (arguments[i].start > 0 ? " (the end of another)" : "");
-    }
-    return routine.name + "(" + list + ")" +
-           showCall(" with the numbers ", numbers.from, numbers.to, numbers.decimals, numbers.flag1,
-                    numbers.flag2, numbers.flag3, numbers.value);
+    return routine.show(texts) + ", from these units of other texts on:" + starts +
+           showCall(", with the numbers ", numbers.from, numbers.to, numbers.decimals,
+                    numbers.flag1, numbers.flag2, numbers.flag3, numbers.value);
   };
   announce(call);
+  const Text expected = routine.expected(texts);
   auto result = isSame(routine.call(handles.data()), expected, call);
-  if (!ends && routine.worksInPlace(texts)) {
+  if (routine.worksInPlace(texts)) {
     arguments[0].owner->text.replace(arguments[0].start, expected.size(), expected);
   }
   for (const Owner& owner : owners) {

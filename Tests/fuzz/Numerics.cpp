@@ -6,31 +6,29 @@
 
 namespace {
 
-namespace transcribed = benchmarks::transcribed;
-
-using Variables = std::array<double, 3>;
-
 // The status of a call and what it leaves in its variables, two of which may be one.
 testing::AssertionResult checkOutcome(Random& random, const std::string& call, auto routine,
                                       auto steps) {
   announce([&] { return call; });
-  Variables actual;
-  for (double& variable : actual) variable = drawDouble(random);
-  const Variables before = actual;
-  Variables expected = actual;
+  using Outcome = std::array<double, 4>;
+  const Outcome before{drawDouble(random), drawDouble(random), drawDouble(random), 0.0};
   const std::size_t i = random.below(3), j = random.below(3), k = random.below(3);
-  const int32_t status = routine(&actual[i], &actual[j], &actual[k]);
-  const int32_t expectedStatus = steps(&expected[i], &expected[j], &expected[k]);
-  const bool isSame = std::equal(actual.begin(), actual.end(), expected.begin(),
-                                 [](double x, double y) { return same(x, y); });
-  if (status == expectedStatus && isSame) return testing::AssertionSuccess();
-  const auto show = [](const char* what, int32_t number, const Variables& v) {
-    return showCall(what, number, v[0], v[1], v[2]);
+  const auto outcome = [&](auto called) {
+    Outcome v = before;
+    v[3] = called(&v[i], &v[j], &v[k]);
+    return v;
+  };
+  const Outcome actual = outcome(routine), expected = outcome(steps);
+  if (std::ranges::equal(actual, expected, [](double x, double y) { return same(x, y); })) {
+    return testing::AssertionSuccess();
+  }
+  const auto show = [](const char* what, const Outcome& v) {
+    return showCall(what, v[0], v[1], v[2], v[3]);
   };
   return testing::AssertionFailure()
-         << call << show(" of the variables ", static_cast<int32_t>(100 * i + 10 * j + k), before)
-         << show("\n  gives    ", status, actual)
-         << show("\n  expected ", expectedStatus, expected);
+         << call << showCall(" with these of the variables ", i, j, k)
+         << show(", which are ", before) << show("\n  gives    ", actual)
+         << show("\n  expected ", expected);
 }
 
 }  // namespace
@@ -40,7 +38,7 @@ testing::AssertionResult checkNumeric(Random& random) {
   const double a = drawDouble(random), b = drawDouble(random), c = drawDouble(random);
   const int32_t m = drawInteger(random), n = drawInteger(random);
   const HostBool flag1 = drawFlag(random), flag2 = drawFlag(random);
-  const double near = truncate(b) + random.between(-2, 90);
+  const double near = transcribed::TruncLng(b) + random.between(-2, 90);
   const double whole = static_cast<double>(random.below(1030));
   CHECK(transcribed, sqr, a);
   CHECK(transcribed, expm1x, a);
@@ -56,13 +54,13 @@ testing::AssertionResult checkNumeric(Random& random) {
   CHECK(transcribed, Int05c, a, flag1);
   CHECK(transcribed, Int05LU, a, flag1, flag2);
   CHECK(transcribed, LCDDbl, a, b);
-  CHECK(stepwise, Fact, n);
-  CHECK(stepwise, Cnk, a, b);
-  CHECK(stepwise, Cnk, whole, std::fabs(n));
-  CHECK(stepwise, SumCnk, a, b, near);
-  CHECK(stepwise, Mod, m, n);
-  CHECK(stepwise, LCD, m, n);
-  CHECK(stepwise, LCD2, a, b);
+  CHECK(transcribed, Fact, n);
+  CHECK(transcribed, Cnk, a, b);
+  CHECK(transcribed, Cnk, whole, std::fabs(n));
+  CHECK_GIVES(SumCnk, transcribed::sumOf(Cnk, a, b, near), a, b, near);
+  CHECK(transcribed, Mod, m, n);
+  CHECK(transcribed, LCD, m, n);
+  CHECK(transcribed, LCD2, a, b);
   CHECK_GIVES(Min, a < b ? a : b, a, b);
   CHECK_GIVES(Max, a > b ? a : b, a, b);
   CHECK_GIVES(FSgn, transcribed::signOf(a), a);
@@ -87,9 +85,9 @@ testing::AssertionResult checkNumeric(Random& random) {
                           swap([](double& x, double& y) { std::swap(x, y); }));
     case 1:
       return checkOutcome(random, showCall("LinearInterpol", a, b, y1, y2, flag1),
-                          linear(LinearInterpol), linear(stepwise::LinearInterpol));
+                          linear(LinearInterpol), linear(transcribed::LinearInterpol));
     default:
       return checkOutcome(random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, flag1),
-                          quadratic(QuadraticInterpol), quadratic(stepwise::QuadraticInterpol));
+                          quadratic(QuadraticInterpol), quadratic(transcribed::QuadraticInterpol));
   }
 }

@@ -1,79 +1,54 @@
 // Null, empty, one-unit and longer strings through every host routine, against a sibling library
 // that records.
-#include <list>
-
 #include "recording/Recording.h"
 #include "support/HostRoutines.h"
 
 namespace {
 
-// An argument that is sent: the null handle where it is null.
-using Argument = const char16_t*;
-using Arguments = std::vector<Argument>;
-
-std::string showArguments(const HostRoutine& routine, const Arguments& arguments) {
-  std::string list;
-  for (const Argument argument : arguments) {
-    list += (list.empty() ? "" : ", ") + (argument ? show(widen(argument)) : show(nullptr));
+// The service calls of a call with these texts.
+ServiceCalls serviceCalls(const HostRoutine& routine, const Texts& texts, const Text& result) {
+  const Path& path = *routine.path;
+  ServiceCalls calls;
+  const auto add = [&calls](const std::string& service, const Text& text) {
+    if (!service.empty()) calls.emplace_back(service, text);
+  };
+  if (routine.isEndedBy(texts)) return calls;
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const std::size_t taken = path.order.empty() ? i : path.order[i];
+    const bool isNull = texts[taken] == kNullHandle;
+    if (isNull && &path != &kObject) continue;
+    add(taken == 0 ? path.first : path.others, isNull ? L"" : texts[taken]);
   }
-  return routine.name + "(" + list + ")";
+  add(routine.worksInPlace(texts) ? path.resultInPlace : path.result, result);
+  return calls;
 }
 
-void check(const HostRoutine& routine, const Arguments& arguments) {
-  const Path& path = *routine.path;
-  std::list<B> owners;
-  std::vector<BSTR> handles;
-  Texts texts;
-  bool ends = false;
-  for (const Argument argument : arguments) {
-    ends |= path.endsAtNull && argument == nullptr && handles.size() < 2;
-    texts.push_back(argument == nullptr ? L"" : widen(argument));
-    handles.push_back(argument == nullptr ? nullptr : BSTR(owners.emplace_back(texts.back())));
-  }
-  const bool inPlace = !ends && routine.worksInPlace(texts);
-  const Text expected = ends && !path.result.empty() ? kNullHandle : routine.expected(texts);
-
-  std::vector<std::string> calls;
-  const auto addCall = [&calls](const std::string& service, const Text& text) {
-    if (!service.empty())
-      calls.push_back(service + "(" + std::string(text.begin(), text.end()) + ")");
-  };
-  for (std::size_t i = 0; i < arguments.size() && !ends; ++i) {
-    const std::size_t taken = path.order.empty() ? i : path.order[i];
-    if (arguments[taken] == nullptr && &path != &kObject) continue;
-    addCall(taken == 0 ? path.first : path.others, texts[taken]);
-  }
-  if (!ends) addCall(inPlace ? path.resultInPlace : path.result, expected);
-
+void check(const HostRoutine& routine, Texts texts) {
+  SCOPED_TRACE(routine.show(texts));
+  const Strings strings(texts);
+  const Text expected = routine.expected(texts);
   const std::size_t aliveBefore = recording.alive.size();
   recording.calls.clear();
-  const Text result = routine.call(handles.data());
-  ASSERT_EQ(recording.calls, calls) << "of " << showArguments(routine, arguments);
-  ASSERT_EQ(recording.alive.size(), aliveBefore) << "of " << showArguments(routine, arguments);
-  ASSERT_EQ(result, expected) << "of " << showArguments(routine, arguments);
-  if (inPlace) texts[0] = result;
-  for (std::size_t i = 0; i < handles.size(); ++i) {
-    ASSERT_EQ(handles[i] == nullptr ? L"" : widen(handles[i]), texts[i])
-        << "argument " << i << " after " << showArguments(routine, arguments);
-  }
+  EXPECT_EQ(routine.call(strings.handles()), expected);
+  EXPECT_EQ(recording.calls, serviceCalls(routine, texts, expected));
+  EXPECT_EQ(recording.alive.size(), aliveBefore);
+  if (routine.worksInPlace(texts)) texts[0] = expected;
+  EXPECT_EQ(strings.texts(), texts) << "are the arguments afterwards";
 }
 
 }  // namespace
 
 TEST(EveryHostRoutine, AllCombinationsOfArguments) {
-  const Arguments values{u" a:7<BR>:A ", nullptr, u"A", u":", u"", u"US", u" ", u"7"};
+  const Texts values{L" a:7<BR>:A ", kNullHandle, L"A", L":", L"", L"US", L" ", L"7"};
   for (const HostRoutine& routine : hostRoutines()) {
-    // Of the routines with more strings, fewer values.
+    // Of the routines with more strings, fewer values. The digits of a number choose among them.
     const std::size_t count = routine.strings <= 3 ? values.size() : 4;
-    std::vector<std::size_t> choice(routine.strings);
-    for (std::size_t digit = 0; digit <= choice.size();) {
-      Arguments arguments;
-      for (const std::size_t i : choice) arguments.push_back(values[i]);
-      check(routine, arguments);
-      if (HasFatalFailure()) break;
-      // The next combination, counted like a number.
-      for (digit = 0; digit < choice.size() && ++choice[digit] == count; ++digit) choice[digit] = 0;
-      if (digit == choice.size()) break;
+    for (std::size_t number = 0; !HasFailure(); ++number) {
+      Texts texts;
+      std::size_t rest = number;
+      for (; texts.size() < routine.strings; rest /= count) texts.push_back(values[rest % count]);
+      if (rest > 0) break;
+      check(routine, texts);
     }
   }
 }

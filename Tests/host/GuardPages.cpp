@@ -4,7 +4,6 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <span>
@@ -13,56 +12,42 @@
 
 namespace {
 
-class GuardedPage {
- public:
-  GuardedPage()
-      : start_(static_cast<char*>(
-            mmap(nullptr, 2 * kSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))) {
-    if (start_ == MAP_FAILED || mprotect(start_ + kSize, kSize, PROT_NONE) != 0) std::abort();
-  }
+// For each argument of a call a page, and behind it one that cannot be touched.
+const auto kSize = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+constexpr std::size_t kArguments = 6;
+char* const pages = static_cast<char*>(
+    mmap(nullptr, 2 * kArguments * kSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
 
-  // The units at the end of the page.
-  template <typename Unit>
-  Unit* hold(std::span<const Unit> units, bool mayBeWritten) {
-    protect(PROT_READ | PROT_WRITE);
-    Unit* const held = reinterpret_cast<Unit*>(start_ + kSize) - units.size();
-    std::copy(units.begin(), units.end(), held);
-    if (!mayBeWritten) protect(PROT_READ);
-    return held;
-  }
-  template <typename Unit>
-  Unit* hold(const std::basic_string<Unit>& text, bool mayBeWritten = false) {
-    return hold(std::span<const Unit>(text.c_str(), text.size() + 1), mayBeWritten);
-  }
-  double* hold(double value, bool mayBeWritten) {
-    return hold(std::span<const double>(&value, 1), mayBeWritten);
-  }
+// Places the units of an argument at the end of its page.
+template <typename Unit>
+Unit* hold(std::size_t argument, std::span<const Unit> units, bool mayBeWritten) {
+  char* const page = pages + 2 * argument * kSize;
+  if (mprotect(page, kSize, PROT_READ | PROT_WRITE) != 0) std::abort();
+  Unit* const held = reinterpret_cast<Unit*>(page + kSize) - units.size();
+  std::copy(units.begin(), units.end(), held);
+  if (!mayBeWritten && mprotect(page, kSize, PROT_READ) != 0) std::abort();
+  return held;
+}
 
-  bool has(const void* address) const { return address >= start_ && address < start_ + 2 * kSize; }
-  bool hasBehind(const void* address) const { return address >= start_ + kSize; }
+// A text with its final zero unit.
+template <typename Unit>
+Unit* hold(std::size_t argument, const std::basic_string<Unit>& text, bool mayBeWritten = false) {
+  return hold(argument, std::span<const Unit>(text.c_str(), text.size() + 1), mayBeWritten);
+}
 
- private:
-  void protect(int access) {
-    if (mprotect(start_, kSize, access) != 0) std::abort();
-  }
+template <typename Number>
+Number* holdOne(std::size_t argument, Number number, bool mayBeWritten) {
+  return hold(argument, std::span<const Number>(&number, 1), mayBeWritten);
+}
 
-  inline static const auto kSize = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-  char* const start_;
-};
-
-// One for each argument of a call.
-std::array<GuardedPage, 6> pages;
 std::string calling;  // the routine, and what it is given
 
 void explain(int signal, siginfo_t* fault, void*) {
-  const char* what = "touches other memory than its arguments";
-  std::size_t argument = 0;
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    if (!pages[i].has(fault->si_addr)) continue;
-    argument = i + 1;
-    what = pages[i].hasBehind(fault->si_addr) ? "goes beyond the end of" : "writes to";
-  }
-  std::fprintf(stderr, "%s: %s argument %zu\n", calling.c_str(), what, argument);
+  const auto page = static_cast<std::size_t>(static_cast<char*>(fault->si_addr) - pages) / kSize;
+  const char* const what = page >= 2 * kArguments ? "touches other memory, no"
+                           : page % 2 == 1        ? "goes beyond the end of"
+                                                  : "writes to";
+  std::fprintf(stderr, "%s: %s argument %zu\n", calling.c_str(), what, page / 2 + 1);
   std::signal(signal, SIG_DFL);  // the fault comes again, and ends the process
 }
 
@@ -80,14 +65,12 @@ class GuardPages : public testing::Test {
 };
 
 void check(const HostRoutine& routine, const Texts& texts) {
-  calling = routine.name + " of texts of";
-  for (const Text& text : texts) calling.append(" ").append(std::to_string(text.size()));
+  calling = routine.show(texts);
   const Text expected = routine.expected(texts);
   const bool inPlace = routine.worksInPlace(texts) && expected != texts[0];
   std::vector<BSTR> handles;
-  for (const Text& text : texts) {
-    const std::size_t i = handles.size();
-    handles.push_back(pages[i].hold(narrow(text), inPlace && i == 0));
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    handles.push_back(hold(i, narrow(texts[i]), inPlace && i == 0));
   }
   ASSERT_EQ(routine.call(handles.data()), expected) << calling;
   if (inPlace) {
@@ -98,11 +81,9 @@ void check(const HostRoutine& routine, const Texts& texts) {
 }  // namespace
 
 TEST_F(GuardPages, TextsOfEveryLength) {
-  const Text units = L"aba:<BR> 7";
   for (const HostRoutine& routine : hostRoutines()) {
-    for (std::size_t size = 0; size <= 300; ++size) {
-      Text text;
-      while (text.size() < size) text.push_back(units[text.size() % units.size()]);
+    Text text;
+    for (std::size_t size = 0; size <= 300; ++size, text += L"aba:<BR> 7"[size % 10]) {
       // One argument after the other is of that length, and then all are.
       for (std::size_t i = 0; i <= routine.strings; ++i) {
         for (const Text other : {L"", L"a", L"b", L"US", L"aba"}) {
@@ -121,31 +102,29 @@ TEST_F(GuardPages, Pointers) {
   for (std::size_t size = 0; size <= 300; ++size) {
     calling = "Replace, SysAllocString2 of texts of " + std::to_string(size);
     const Text pattern(size, L'a'), with(size, L'b');
-    ASSERT_EQ(Replace(L"-" + pattern + L"-", pages[0].hold(pattern), pages[1].hold(with)),
-              L"-" + with + L"-");
-    ASSERT_EQ(take(SysAllocString2(pages[0].hold(with))), with);
+    ASSERT_EQ(Replace(L"-" + pattern + L"-", hold(0, pattern), hold(1, with)), L"-" + with + L"-");
+    ASSERT_EQ(take(SysAllocString2(hold(0, with))), with);
     calling = "VB_SetFormat of an array of " + std::to_string(size);
     const std::vector<BSTR> unset(size);
-    BSTR* const formats = pages[0].hold(std::span(unset), true);
+    BSTR* const formats = hold(0, std::span(unset), true);
     VB_SetFormat(formats, static_cast<int32_t>(size), 2, -1);
     for (std::size_t i = 0; i < size; ++i) ASSERT_EQ(take(formats[i]), L"0.0");
   }
   calling = "SwapLng, SwapDbl, SwapStr";
   const auto expectSwap = [](auto routine, auto a, auto b) {
-    auto* const first = pages[0].hold(std::span<const decltype(a)>(&a, 1), true);
-    auto* const second = pages[1].hold(std::span<const decltype(b)>(&b, 1), true);
+    auto *const first = holdOne(0, a, true), *const second = holdOne(1, b, true);
     routine(first, second);
     EXPECT_EQ(std::pair(*first, *second), std::pair(b, a));
   };
   expectSwap(SwapLng, 1, 2);
   expectSwap(SwapDbl, 1.0, 2.0);
-  expectSwap(SwapStr, BSTR{}, pages[2].hold(u"text"s));
+  expectSwap(SwapStr, BSTR{}, hold(2, u"text"s));
   // What is only read in the direction at hand is not written.
   for (const HostBool forward : {QUVARDBS1C_TRUE, QUVARDBS1C_FALSE}) {
     calling = "LinearInterpol, QuadraticInterpol, forward " + std::to_string(forward);
-    double* const x = pages[2].hold(2, !forward);
-    double* const second = pages[3].hold(7, !forward);
-    double* const y = pages[4].hold(4, forward);
+    double* const x = holdOne(2, 2.0, !forward);
+    double* const second = holdOne(3, 7.0, !forward);
+    double* const y = holdOne(4, 4.0, forward);
     EXPECT_EQ(LinearInterpol(1, 3, 2, 6, x, y, forward), 0);
     EXPECT_EQ(QuadraticInterpol(1, 2, 4, 0, 0, 6, x, second, y, forward), 0);
   }

@@ -26,10 +26,9 @@ double Cnk(double, double) noexcept { return stray(__func__), 1; }
 Text DecimalFormat(int32_t) { return stray(__func__); }
 
 int main() {
-  const B text(u" a<CM>7 "), language(u"US");
-  const BSTR handles[] = {text, text, language, text, text, text};
+  const Strings texts({L" a<CM>7 ", L" a<CM>7 ", L"US", L" a<CM>7 ", L" a<CM>7 ", L" a<CM>7 "});
   for (const HostRoutine& routine : hostRoutines()) {
-    if (routine.path != &kToWideText) routine.call(handles);  // the host has its own
+    if (routine.path != &kToWideText) routine.call(texts.handles());  // the host has its own
   }
   ASin(0.6);
   SumCnk(4, 0, 4);

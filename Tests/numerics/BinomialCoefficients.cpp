@@ -1,15 +1,16 @@
 #include <chrono>
 
+#include "../Benchmarks/Transcriptions.h"
 #include "support/Random.h"
 #include "support/SmallScopes.h"
 
 namespace {
 
-void expectCnk(double n, double k) { expectSame("Cnk", Cnk, stepwise::Cnk, n, k); }
+void expectCnk(double n, double k) { EXPECT_GIVES(Cnk, transcribed::Cnk(n, k), n, k); }
 
-TEST(Factorials, AsStepwise) { EXPECT_SAME(Fact, stepwise::Fact, integersNear(300)); }
+TEST(Factorials, AsTranscribed) { EXPECT_SAME(Fact, transcribed::Fact, integersNear(300)); }
 
-TEST(BinomialCoefficients, AsStepwise) {
+TEST(BinomialCoefficients, AsTranscribed) {
   for (int n = 0; n <= 1100; n += n < 130 ? 1 : 9) {
     for (int k = 0; k <= n; k += n < 130 ? 1 : 7) expectCnk(n, k);
   }

@@ -1,5 +1,6 @@
 #include <numeric>
 
+#include "../Benchmarks/Transcriptions.h"
 #include "support/Random.h"
 #include "support/SmallScopes.h"
 
@@ -7,10 +8,9 @@ namespace {
 
 TEST(Divisors, OfIntegersNearTheLimits) {
   const auto integers = integersNear(40, {-65536, 65536});
-  EXPECT_SAME(LCD, stepwise::LCD, integers, integers);
-  EXPECT_SAME(Mod, stepwise::Mod, integers, integers);
-  const auto isEven = [](int32_t n) { return n % 2 == 0 ? -1 : 0; };
-  EXPECT_SAME(IsEvenLng, isEven, integers);
+  EXPECT_SAME(LCD, transcribed::LCD, integers, integers);
+  EXPECT_SAME(Mod, transcribed::Mod, integers, integers);
+  EXPECT_SAME(IsEvenLng, transcribed::IsEvenLng, integers);
 }
 
 // Of i / 10^places and j / 10^places, i and j of any size that fits 32 bits.

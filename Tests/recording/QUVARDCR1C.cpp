@@ -13,31 +13,33 @@ namespace {
 
 std::wstring wideBuffer;
 
-template <typename Text>
-void record(const std::string& service, const Text& text) {
+// Gives the text as wide text.
+template <typename Unit>
+const std::wstring& record(const char* service, const std::basic_string<Unit>& text) {
   std::fill(wideBuffer.begin(), wideBuffer.end(), L'\xDEAD');
-  std::string call = service + "(";
-  for (const auto unit : text) call.push_back(unit < 0x80 ? static_cast<char>(unit) : '?');
-  recording.calls.push_back(call + ")");
+  return recording.calls.emplace_back(service, std::wstring(text.begin(), text.end())).second;
 }
 
-template <typename Text>
-BSTR made(const std::string& service, const Text& text) {
-  record(service, text);
+// Two services take null.
+std::u16string orEmpty(const char16_t* units) { return units == nullptr ? u"" : units; }
+
+BSTR made(const std::wstring& text) {
   const BSTR handle = new char16_t[text.size() + 1]();
   std::copy(text.begin(), text.end(), handle);
   return *recording.alive.insert(handle).first;
 }
 
-std::u16string textOf(const char16_t* units) { return units == nullptr ? u"" : units; }
-
 }  // namespace
 
-BSTR SysAllocString16(const char16_t* units) { return made("SysAllocString16", textOf(units)); }
-
+BSTR SysAllocString16(const char16_t* units) { return made(record(__func__, orEmpty(units))); }
+BSTR SysAllocString2(const wchar_t* units) { return made(record(__func__, std::wstring(units))); }
+BSTR convertWstringToBSTR(std::wstring text) { return made(record(__func__, text)); }
+std::wstring convertBSTRtoWstring(BSTR& handle) { return record(__func__, orEmpty(handle)); }
 std::size_t wcslen16(const char16_t* units) {
-  record("wcslen16", std::u16string(units));
-  return std::char_traits<char16_t>::length(units);
+  return record(__func__, std::u16string(units)).size();
+}
+wchar_t* CW162W32(BSTR handle) {
+  return (wideBuffer = record(__func__, std::u16string(handle))).data();
 }
 
 void releaseBSTR(BSTR handle) {
@@ -45,20 +47,3 @@ void releaseBSTR(BSTR handle) {
   if (recording.alive.erase(handle) == 0) throw std::logic_error("no live host string");
   delete[] handle;
 }
-
-wchar_t* CW162W32(BSTR handle) {
-  const std::u16string text = handle;
-  record("CW162W32", text);
-  wideBuffer.assign(text.begin(), text.end());
-  return wideBuffer.data();
-}
-
-BSTR SysAllocString2(const wchar_t* units) { return made("SysAllocString2", std::wstring(units)); }
-
-std::wstring convertBSTRtoWstring(BSTR& handle) {
-  const std::u16string text = textOf(handle);
-  record("convertBSTRtoWstring", text);
-  return {text.begin(), text.end()};
-}
-
-BSTR convertWstringToBSTR(std::wstring text) { return made("convertWstringToBSTR", text); }

@@ -4,13 +4,17 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "QUVARDCR1C.h"
 
+// Each service and the text that it is given, in order.
+using ServiceCalls = std::vector<std::pair<std::string, std::wstring>>;
+
 struct Recording {
-  std::vector<std::string> calls;  // "service(text)", in order; U+0080 and above as '?'
-  std::set<BSTR> alive;            // host strings made and not released
+  ServiceCalls calls;
+  std::set<BSTR> alive;  // host strings made and not released
 };
 extern QUVARDCR1C_API Recording recording;
 

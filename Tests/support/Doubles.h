@@ -17,10 +17,6 @@ inline constexpr int32_t kHighest = std::numeric_limits<int32_t>::max();
 inline double above(double x) { return std::nextafter(x, kInf); }
 inline double below(double x) { return std::nextafter(x, -kInf); }
 
-inline int32_t truncate(double x) {
-  return std::fabs(std::trunc(x)) <= kHighest ? static_cast<int32_t>(x) : kLowest;
-}
-
 // The same bits; any NaN is the same as any other.
 inline bool same(double a, double b) {
   return std::bit_cast<uint64_t>(a) == std::bit_cast<uint64_t>(b) ||

@@ -24,19 +24,11 @@ auto row(Columns... columns) {
 // A value as a failure shows it; of a long text the units around a place.
 inline constexpr std::size_t kAround = 30;
 inline std::string show(const Text& text, std::size_t place = 0) {
+  if (text == kNullHandle) return "null";
   const std::size_t start = place < kAround ? 0 : std::min(place, text.size()) - kAround;
-  std::ostringstream out;
-  out << (start > 0 ? "...\"" : "\"");
-  for (const wchar_t unit : text.substr(start, 2 * kAround)) {
-    if (unit >= L' ' && unit <= L'~') {
-      out << static_cast<char>(unit);
-    } else {
-      out << "\\x{" << std::hex << static_cast<uint32_t>(unit) << std::dec << '}';
-    }
-  }
-  out << (text.size() > start + 2 * kAround ? "\"..." : "\"");
-  if (text.size() > 2 * kAround) out << " of " << text.size() << " units";
-  return out.str();
+  const std::string units = testing::PrintToString(text.substr(start, 2 * kAround));
+  if (text.size() <= 2 * kAround) return units;
+  return "from unit " + std::to_string(start) + " of " + std::to_string(text.size()) + ": " + units;
 }
 inline std::string show(std::nullptr_t, std::size_t = 0) { return "null"; }
 template <typename Number>
@@ -46,11 +38,14 @@ requires std::is_arithmetic_v<Number> std::string show(Number number, std::size_
   return out.str();
 }
 
-template <typename... Arguments>
-std::string showCall(const std::string& routine, const Arguments&... arguments) {
+inline std::string listOf(const std::vector<std::string>& parts) {
   std::string list;
-  ((list += (list.empty() ? "" : ", ") + show(arguments)), ...);
-  return routine + "(" + list + ")";
+  for (const std::string& part : parts) list += (list.empty() ? "" : ", ") + part;
+  return list;
+}
+
+std::string showCall(const std::string& routine, const auto&... arguments) {
+  return routine + "(" + listOf({show(arguments)...}) + ")";
 }
 
 // Results as they are compared: texts and numbers.
@@ -125,9 +120,5 @@ inline testing::AssertionResult resultItself(const char*, testing::AssertionResu
 #define EXPECT_EXAMPLE(actual, expected) \
   EXPECT_PRED_FORMAT1(resultItself,      \
                       isSame(comparable(actual), comparable(expected), [] { return #actual; }))
-
-void expectSame(const char* name, auto routine, auto reference, auto... arguments) {
-  EXPECT_PRED_FORMAT1(resultItself, gives(name, routine, reference(arguments...), arguments...));
-}
 
 #endif

@@ -4,12 +4,10 @@
 
 #include <functional>
 #include <utility>
-#include <vector>
 
 #include "support/Expectations.h"
 #include "support/Stepwise.h"
 
-using Texts = std::vector<Text>;
 using Handles = const BSTR*;
 
 // The way across the boundary: the services for the first string, for each other one and for a
@@ -36,15 +34,36 @@ inline const Path kHandlesAlone{"", "", ""};
 
 struct HostRoutine {
   std::string name;
-  std::size_t strings;                         // number of host strings it takes
-  std::function<Text(Handles)> call;           // its result as text, released
-  std::function<void(Handles)> run;            // the same call, its result released at once
-  std::function<Text(const Texts&)> expected;  // the same from wide text, null read as empty
+  std::size_t strings;                     // number of host strings it takes
+  std::function<Text(Handles)> call;       // its result as text, released
+  std::function<void(Handles)> run;        // the same call, its result released at once
+  std::function<Text(const Texts&)> wide;  // the same from wide text
   const Path* path = nullptr;
+
+  // Whether a null string ends the call before any service.
+  bool isEndedBy(const Texts& texts) const {
+    const auto second = texts.begin() + std::min<std::ptrdiff_t>(2, std::ssize(texts));
+    return path->endsAtNull && std::find(texts.begin(), second, kNullHandle) != second;
+  }
 
   // Whether the first text itself changes.
   bool worksInPlace(const Texts& texts) const {
-    return !path->resultInPlace.empty() && texts[1].size() == 1 && texts[2].size() == 1;
+    return !path->resultInPlace.empty() && !isEndedBy(texts) && texts[1].size() == 1 &&
+           texts[2].size() == 1;
+  }
+
+  // The result of a call; the null handle is read as the empty text.
+  Text expected(Texts texts) const {
+    if (isEndedBy(texts) && !path->result.empty()) return kNullHandle;
+    std::replace(texts.begin(), texts.end(), kNullHandle, Text());
+    return wide(texts);
+  }
+
+  // A call as a failure shows it.
+  std::string show(const Texts& texts) const {
+    std::vector<std::string> shown;
+    for (const Text& text : texts) shown.push_back(::show(text));
+    return name + "(" + listOf(shown) + ")";
   }
 };
 
@@ -53,16 +72,15 @@ inline Text textOf(const Text& result) { return result; }
 inline Text textOf(std::int32_t result) { return std::to_wstring(result); }
 
 inline void discard(BSTR result) { releaseBSTR(result); }
-template <typename Result>
-void discard(const Result&) {}
+inline void discard(const auto&) {}
 
-// A host routine that takes host strings and then these scalars, and what does the same with wide
-// text.
-template <typename Result, typename... Parameters, typename Wide, typename... Scalars>
-HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide,
-                      Scalars... scalars) {
+// A host routine that takes host strings and then these scalars, as they are at the time of a call,
+// and what does the same with wide text.
+template <typename Result, typename... Parameters, typename... Scalars>
+HostRoutine routineOf(const char* name, Result (*host)(Parameters...), auto wide,
+                      Scalars&... scalars) {
   constexpr std::size_t count = sizeof...(Parameters) - sizeof...(Scalars);
-  const auto call = [=](auto routine, const auto& strings) {
+  const auto call = [&scalars...](auto routine, const auto& strings) {
     return [&]<std::size_t... i>(std::index_sequence<i...>) {
       return routine(strings[i]..., scalars...);
     }
@@ -81,13 +99,8 @@ struct Numbers {
 };
 inline const Numbers kUsualNumbers;
 
-// The numbers are those at the time of a call.
 inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumbers) {
-  const auto from = std::cref(numbers.from), to = std::cref(numbers.to);
-  const auto decimals = std::cref(numbers.decimals);
-  const auto flag1 = std::cref(numbers.flag1), flag2 = std::cref(numbers.flag2);
-  const auto flag3 = std::cref(numbers.flag3);
-  const auto value = std::cref(numbers.value);
+  const auto& [from, to, decimals, flag1, flag2, flag3, value] = numbers;
   const auto localAN = [](Text a, Text b, Text c) { return LocalAN(a, b, c, -1, 0, 0); };
   // Where VB_Replace gives its argument itself, which is not to be released, the null handle.
   const auto replacedOrNull = +[](BSTR text, BSTR pattern, BSTR replacement) -> BSTR {
@@ -112,17 +125,23 @@ inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumb
     all.insert(all.end(), routines.begin(), routines.end());
   };
 #define ROUTINE(host, ...) routineOf(#host, host, __VA_ARGS__)
-  add(kBuffer,
-      {ROUTINE(VB_StrLeft, StrLeft, from), ROUTINE(VB_StrRight, StrRight, from),
-       ROUTINE(VB_StrConcat, StrConcat), ROUTINE(VB_StrLTrim, StrLTrim),
-       ROUTINE(VB_StrRTrim, StrRTrim), ROUTINE(VB_StrLRTrim, StrLRTrim),
-       ROUTINE(VB_RemoveChar, RemoveChar), ROUTINE(VB_RemoveNonNumericChar, RemoveNonNumericChar),
-       ROUTINE(StrFromTo, stepwise::StrFromTo, from, to),
-       ROUTINE(StrBetween, stepwise::StrBetween, from, to),
-       ROUTINE(StrFromChrToChr, stepwise::StrFromChrToChr)});
-  add(kBuffer, {ROUTINE(VB_LocalAN, localAN), ROUTINE(VB_LocalAN2, LocalAN, flag1, flag2, flag3),
-                ROUTINE(VB_LowerFirst, LowerFirst, flag1), ROUTINE(VB_UpperFirst, UpperFirst),
-                ROUTINE(VB_PStrP, PStrP), ROUTINE(VB_BStrB, stepwise::VB_BStrB),
+  add(kBuffer, {ROUTINE(VB_StrLeft, StrLeft, from),
+                ROUTINE(VB_StrRight, StrRight, from),
+                ROUTINE(VB_StrConcat, StrConcat),
+                ROUTINE(VB_StrLTrim, StrLTrim),
+                ROUTINE(VB_StrRTrim, StrRTrim),
+                ROUTINE(VB_StrLRTrim, StrLRTrim),
+                ROUTINE(VB_RemoveChar, RemoveChar),
+                ROUTINE(VB_RemoveNonNumericChar, RemoveNonNumericChar),
+                ROUTINE(StrFromTo, stepwise::StrFromTo, from, to),
+                ROUTINE(StrBetween, stepwise::StrBetween, from, to),
+                ROUTINE(StrFromChrToChr, stepwise::StrFromChrToChr),
+                ROUTINE(VB_LocalAN, localAN),
+                ROUTINE(VB_LocalAN2, LocalAN, flag1, flag2, flag3),
+                ROUTINE(VB_LowerFirst, LowerFirst, flag1),
+                ROUTINE(VB_UpperFirst, UpperFirst),
+                ROUTINE(VB_PStrP, PStrP),
+                ROUTINE(VB_BStrB, stepwise::VB_BStrB),
                 ROUTINE(VB_QUVARDHTMLProcessor, QUVARDHTMLProcessor),
                 ROUTINE(Cpp_DecimalFormat, DecimalFormat, decimals),
                 ROUTINE(VB_OutputFormat, OutputFormat, value),

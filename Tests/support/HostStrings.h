@@ -2,14 +2,20 @@
 #ifndef TESTS_SUPPORT_HOSTSTRINGS_H
 #define TESTS_SUPPORT_HOSTSTRINGS_H
 
+#include <list>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "QUVARDBS1C.h"
 #include "QUVARDCR1C.h"
 
 using Text = std::wstring;
+using Texts = std::vector<Text>;
 using namespace std::string_literals;
+
+// What stands for the null handle where there are texts: no other text equals it.
+inline const Text kNullHandle = L"(null handle)";
 
 // 16-bit text as wide text, one unit for one.
 inline Text widen(const std::u16string& text) { return {text.begin(), text.end()}; }
@@ -38,8 +44,25 @@ class B {
   BSTR handle_;
 };
 
-// What stands for the null handle where texts are compared: no text equals it.
-inline const Text kNullHandle = L"(null handle)";
+// Host strings of the given texts, and the handles of them all.
+class Strings {
+ public:
+  explicit Strings(const Texts& texts) {
+    for (const Text& text : texts) {
+      handles_.push_back(text == kNullHandle ? nullptr : BSTR(owners_.emplace_back(text)));
+    }
+  }
+  const BSTR* handles() const { return handles_.data(); }
+  Texts texts() const {
+    Texts texts;
+    for (const BSTR handle : handles_) texts.push_back(handle ? widen(handle) : kNullHandle);
+    return texts;
+  }
+
+ private:
+  std::list<B> owners_;
+  std::vector<BSTR> handles_;
+};
 
 // The text of a result, which is released.
 inline Text take(BSTR result) {

@@ -1,4 +1,5 @@
-// What routines give, worked out by the plainest steps that their contracts allow.
+// What the routines of texts and number patterns give, worked out by the plainest steps that their
+// contracts allow.
 #ifndef TESTS_SUPPORT_STEPWISE_H
 #define TESTS_SUPPORT_STEPWISE_H
 
@@ -180,100 +181,6 @@ inline Text OptimalFormat(double value, int32_t decimals, HostBool useExponent,
   if (!isSmall && e < 5) return mantissa;
   if (!isSet(keepDecimals) && isWhole(std::pow(10.0, -e) * value)) mantissa = L"0";
   return mantissa + (isSmall ? L"E-0" : L"E+0") + ((isSmall ? e <= -10 : e >= 10) ? L"0" : L"");
-}
-
-inline double Fact(int32_t n) {
-  double r = 1.0;
-  for (int32_t i = 2; i <= n && !std::isinf(r); ++i) r = r * i;
-  return r;
-}
-
-// An r that is infinite, or NaN, stays so.
-inline double Cnk(double n, double k) {
-  if (k > n) return 0.0;
-  if (k == n || k == 0.0) return 1.0;
-  int32_t m = truncate(n - k);
-  double q = k;
-  if (m > k) {
-    m = truncate(k);
-    q = n - m;
-  }
-  double r = 1.0 + q;
-  for (int32_t i = 2; i <= m && std::isfinite(r); ++i) r = ((q + i) * r) / i;
-  return r;
-}
-
-inline double SumCnk(double n, double from, double to) {
-  double sum = 0.0;
-  for (double i = truncate(from); i <= kHighest && to >= i; i += 1.0) sum += ::Cnk(n, i);
-  return sum;
-}
-
-inline double Mod(int32_t a, int32_t b) {
-  return b == 0 ? a : a - std::floor(static_cast<double>(a) / b) * b;
-}
-
-// Euclid's algorithm, with the floored remainder.
-inline double LCD2(double a, double b) {
-  while (b != 0.0) {
-    const double r = Mod(truncate(a), truncate(b));
-    a = b;
-    b = r;
-  }
-  return std::fabs(a);
-}
-
-inline int32_t LCD(int32_t a, int32_t b) { return truncate(LCD2(a, b)); }
-
-inline bool isTrue(HostBool flag) { return (flag & 0xFFFF) == 0xFFFF; }
-
-inline int32_t LinearInterpol(double x1, double x2, double y1, double y2, double* x, double* y,
-                              HostBool forward) {
-  if (x1 == x2) {
-    *x = x1;
-    *y = (y1 + y2) * 0.5;
-    return -1;
-  }
-  const double a = (y2 - y1) / (x2 - x1), b = (x2 * y1 - x1 * y2) / (x2 - x1);
-  if (!isTrue(forward) && a == 0.0) return -1;
-  isTrue(forward) ? * y = b + a** x : * x = (*y - b) / a;
-  return 0;
-}
-
-inline int32_t QuadraticInterpol(double x1, double x2, double x3, double y1, double y2, double y3,
-                                 double* x, double* xSecond, double* y, HostBool forward) {
-  if (x1 == x2 || x2 == x3 || x1 == x3) return -1;
-  const double xs[] = {x1, x2, x3, x1, x2}, ys[] = {y1, y2, y3, y1, y2};
-  const auto divisor = [&](int i) {
-    return (xs[i] + xs[i + 1]) * xs[i + 2] - (xs[i] + xs[i + 2]) * xs[i + 1];
-  };
-  const auto divides = [](double value) { return value < 0.0 || value > 0.0; };
-  int i = divides(divisor(0)) ? 0 : divides(divisor(1)) ? 1 : 2, j = i + 1;
-  const int k = i + 2;
-  const double factor = (1.0 / divisor(i)) / ((xs[j] - xs[i]) * (xs[k] - xs[i]));
-  const double p = ((xs[j] * xs[j]) * ys[i] - (xs[i] * xs[i]) * ys[j]) * ((xs[k] - xs[i]) * xs[k]);
-  const double q = ((xs[i] * xs[i]) * ys[k] - (xs[k] * xs[k]) * ys[i]) * ((xs[j] - xs[i]) * xs[j]);
-  const double c = (q + p) * factor;
-  i = divides(x1 * x2) ? 0 : divides(x2 * x3) ? 1 : 2, j = i + 1;
-  const double ii = xs[i] * xs[i], jj = xs[j] * xs[j];
-  const double b =
-      ((jj * ys[i] + (ii - jj) * c) - ii * ys[j]) / ((xs[i] * xs[j]) * (xs[j] - xs[i]));
-  i = x1 * x1 == 0.0 ? 1 : 0;
-  const double a = ((ys[i] - xs[i] * b) - c) / (xs[i] * xs[i]);
-  if (isTrue(forward)) {
-    *y = c + (b + a * *x) * *x;
-  } else if (a != 0.0) {
-    const double discriminant = (c - *y) * (-4.0 * a) + b * b;
-    const double root = 0.0 > discriminant ? -kExtreme : std::sqrt(discriminant);
-    const double lower = a > 0.0 ? -b - root : root - b, upper = a > 0.0 ? root - b : -b - root;
-    *x = (lower * 0.5) / a;
-    *xSecond = (0.5 * upper) / a;
-  } else if (b != 0.0) {
-    *x = (*y - c) / b;
-  } else {
-    return -1;
-  }
-  return 0;
 }
 
 }  // namespace stepwise
