@@ -19,11 +19,10 @@ OPERATORS = {
 WORDS = {"true": "false", "false": "true", "min": "max", "max": "min", "floor": "ceil",
          "less": "greater", "greater": "less", "continue": "break"}
 TOKEN = re.compile(
-    r"""(?P<string>[Luc]?8?"(?:\\.|[^"\\])*") | (?P<character>[LuU]?'(?:\\.|[^'\\])+')
+    r"""(?P<comment>//.*) | (?P<string>[Luc]?8?"(?:\\.|[^"\\])*") | (?P<character>[LuU]?'(?:\\.|[^'\\])+')
       | (?P<number>\b(?:0[xX][0-9a-fA-F.]+(?:p[-+]?\d+)?|\d+(?:\.\d*)?(?:[eE][-+]?\d+)?)[uUlLf]*)
       | (?P<word>\b[A-Za-z_]\w*\b) | (?P<arrow>->|::|\[\[.*?\]\])
-      | (?P<operator><<=|>>=|<=>|<=|>=|==|!=|&&|\|\||\+\+|--|\+=|-=|\*=|\|=|<<|>>|[-+*/%<>&|])
-      | (?P<comment>//.*)""", re.X)
+      | (?P<operator><<=|>>=|<=>|<=|>=|==|!=|&&|\|\||\+\+|--|\+=|-=|\*=|\|=|<<|>>|[-+*/%<>&|])""", re.X)
 STATEMENT = re.compile(r"^\s*(?!return\b|using\b|static|case\b|default\b|break\b|namespace|typedef|public|"
                        r"template|struct|class|enum|const\b|constexpr|inline|else\b|extern)[\w*(].*;\s*(//.*)?$")
 DECLARATION = re.compile(r"^\s*[\w:<>,&* ]+[\s*&]\w+(\[[^]]*\])?(\s*[={(].*)?;")

@@ -23,6 +23,7 @@ TEST(BinomialSums, AsTranscribed) {
     expectSum(n, -0x1p31 + std::fabs(from), -0x1p31 + 78.0 + n);
     expectSum(n - 0x1p31 + 48.0, kLowest, n - 0x1p31 + 58.0);
     expectSum(random.edge(), from, from + 40.0);
+    expectSum(n, from - 1e3, from);
   }
   // Long runs, whose sums round to ever coarser multiples.
   for (const double n :
@@ -33,7 +34,7 @@ TEST(BinomialSums, AsTranscribed) {
     }
     expectSum(n, -1e6, n < 4e9 ? 40.0 : 1e6);
   }
-  for (const double n : {5.0, 0.3}) {
+  for (const double n : {5.0, 0.3, 0.5}) {
     expectSum(n, kLowest, kLowest + 2e7);
   }
 }
