@@ -49,7 +49,8 @@ def breaks_of_line(line):
                 digits = re.match(r"\d+", text).group()
                 yield at, len(text), str(int(digits) + 1) + text[len(digits):]
             elif re.fullmatch(r"0[xX][0-9a-fA-F]+[uUlL]*", text):
-                yield at, len(text), text[:2] + "1" + text[2:]
+                digits = re.match(r"0[xX][0-9a-fA-F]+", text).group()
+                yield at, len(text), hex(int(digits, 16) + 1) + text[len(digits):]
             elif text == "0.0":
                 yield at, len(text), "1.0"
             else:
