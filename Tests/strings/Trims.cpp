@@ -9,12 +9,12 @@ TEST(Trims, OfEveryShortText) {
 
 // Many blanks are passed over in stretches, which begin and end anywhere.
 TEST(Trims, OfManyBlanks) {
-  for (std::size_t before = 0; before < 200; ++before) {
-    for (const std::size_t after : {0U, 1U, 63U, 64U, 65U, 128U}) {
-      const Text left(before, L' '), right(after, L' ');
-      ASSERT_GIVES(StrLTrim, L"a b" + right, left + L"a b" + right);
-      ASSERT_GIVES(StrRTrim, right + L"a b", right + L"a b" + left);
-      ASSERT_GIVES(StrLRTrim, L"", left + right);
+  for (std::size_t around = 0; around < 200; ++around) {
+    for (const std::size_t within : {0U, 1U, 63U, 64U, 65U, 128U}) {
+      const Text blanks(around, L' '), words = L"a" + Text(within, L' ') + L"b";
+      ASSERT_GIVES(StrLTrim, words + blanks, blanks + words + blanks);
+      ASSERT_GIVES(StrRTrim, blanks + words, blanks + words + blanks);
     }
+    ASSERT_GIVES(StrLRTrim, L"", Text(around, L' '));
   }
 }
