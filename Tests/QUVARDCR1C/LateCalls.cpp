@@ -5,24 +5,17 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <string>
 #include <thread>
 
-#include "QUVARDBS1C.h"
-#include "QUVARDCR1C.h"
+#include "support/HostStrings.h"
 
 namespace {
 
 // Long enough for a buffer of its own size.
 void call(const char* when, std::size_t length) {
-  const std::u16string blanks(length, u' ');
-  const std::u16string text = blanks + u"x" + blanks;
-  std::u16string units = text;
-  BSTR trimmed = VB_StrLRTrim(units.data());
-  const bool isRight = std::u16string(trimmed) == u"x" && units == text;
-  releaseBSTR(trimmed);
-  if (isRight) return;
+  const Text blanks(length, L' '), text = blanks + L"x" + blanks;
+  const B units(text);
+  if (take(VB_StrLRTrim(units)) == L"x" && units.text() == text) return;
   std::fprintf(stderr, "VB_StrLRTrim %s: an x between %zu blanks did not give \"x\"\n", when,
                length);
   std::_Exit(1);

@@ -1,3 +1,4 @@
+#include "fuzz/Checks.h"
 #include "support/SmallScopes.h"
 
 TEST(NumberPatterns, Decimals) {
@@ -8,24 +9,8 @@ TEST(NumberPatterns, Decimals) {
 }
 
 TEST(NumberPatterns, ByDigitsIntoAnArray) {
-  for (const auto& [digits, digitsOverride, pattern] :
-       {row(4, -1, L"0.000"), row(2, -1, L"0.0"), row(1, -1, L"0"), row(0, -1, L"0"),
-        row(-5, -1, L"0"), row(kLowest, -1, L"0"), row(4, 2, L"0.0"), row(4, 1, L"0"),
-        row(4, 0, L"0"), row(4, -2, L"0"), row(4, kLowest, L"0"), row(-1, 3, L"0.00")}) {
-    for (const int32_t count : {kLowest, -1, 0, 1, 2, 3}) {
-      Text wide[] = {L"stays", L"stays", L"stays", L"stays"};
-      SetFormat(wide, count, digits, digitsOverride);
-      BSTR host[4] = {};
-      VB_SetFormat(host, count, digits, digitsOverride);
-      for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(wide[i], i < count ? pattern : L"stays")
-            << "element " << i << " after " << showCall("SetFormat", count, digits, digitsOverride);
-        EXPECT_EQ(take(host[i]), i < count ? pattern : kNullHandle)
-            << "element " << i << " after "
-            << showCall("VB_SetFormat", count, digits, digitsOverride);
-      }
-    }
-  }
+  const std::vector<int32_t> counts{kLowest, -1, 0, 1, 2, 8}, digits{kLowest, -2, -1, 0, 1, 2, 4};
+  forEach([](auto... numbers) { EXPECT_TRUE(checkFormatsOf(numbers...)); }, counts, digits, digits);
 }
 
 TEST(NumberPatterns, WorkedValues) {

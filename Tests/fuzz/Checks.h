@@ -15,6 +15,9 @@ testing::AssertionResult checkWideRoutine(Random& random);
 testing::AssertionResult checkFormat(Random& random);
 testing::AssertionResult checkNumeric(Random& random);
 
+// Both forms of SetFormat, on an array of 8.
+testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t digitsOverride);
+
 // Tells a call before it is made, if the environment has QUVARD_CALLS: a call that a sanitizer ends
 // has no other way to.
 inline void announce(const auto& call) {

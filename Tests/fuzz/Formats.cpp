@@ -1,31 +1,25 @@
 #include "fuzz/Checks.h"
 
-namespace {
-
-testing::AssertionResult checkArrays(int32_t count, int32_t digits, int32_t digitsOverride) {
+testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t digitsOverride) {
+  constexpr std::size_t kSize = 8;
   const int32_t used = digitsOverride == -1 ? digits : digitsOverride;
   const Text pattern = stepwise::DecimalFormat(used < 1 ? 0 : used - 1);
   const auto call = [&] { return showCall("SetFormat", count, digits, digitsOverride); };
   announce(call);
-  std::vector<Text> wide(8, L"stays");
-  SetFormat(wide.data(), count, digits, digitsOverride);
-  std::vector<BSTR> host(8);
-  VB_SetFormat(host.data(), count, digits, digitsOverride);
-  testing::AssertionResult result = testing::AssertionSuccess();
-  for (int32_t i = 0; i < 8; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    for (const auto& [form, actual, unset] :
-         {row("", wide[at], L"stays"s), row("VB_", take(host[at]), kNullHandle)}) {
-      const auto isRight = isSame(actual, i < count ? pattern : unset, [&, form = form] {
-        return form + call() + ", element " + std::to_string(i);
-      });
-      if (!isRight) result = isRight;
-    }
+  Texts wide(kSize, L"stays"), host, expectedWide = wide, expectedHost(kSize, kNullHandle);
+  for (Texts* const expected : {&expectedWide, &expectedHost}) {
+    std::fill_n(expected->begin(), std::min<int32_t>(count, kSize), pattern);
   }
-  return result;
+  SetFormat(wide.data(), count, digits, digitsOverride);
+  BSTR handles[kSize] = {};
+  VB_SetFormat(handles, count, digits, digitsOverride);
+  for (const BSTR handle : handles) host.push_back(take(handle));
+  if (wide == expectedWide && host == expectedHost) return testing::AssertionSuccess();
+  return testing::AssertionFailure()
+         << call() << " and VB_SetFormat\n  give     "
+         << testing::PrintToString(std::pair(wide, host)) << "\n  expected "
+         << testing::PrintToString(std::pair(expectedWide, expectedHost));
 }
-
-}  // namespace
 
 testing::AssertionResult checkFormat(Random& random) {
   std::size_t choice = random.below(4);
@@ -35,5 +29,5 @@ testing::AssertionResult checkFormat(Random& random) {
   CHECK(stepwise, DecimalFormat, decimals);
   CHECK(stepwise, OutputFormat, value);
   CHECK(stepwise, OptimalFormat, value, decimals, useExponent, keepDecimals);
-  return checkArrays(std::min(drawInteger(random), 8), decimals, other);
+  return checkFormatsOf(std::min(drawInteger(random), 8), decimals, other);
 }

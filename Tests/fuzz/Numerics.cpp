@@ -34,7 +34,7 @@ testing::AssertionResult checkOutcome(Random& random, const std::string& call, a
 }  // namespace
 
 testing::AssertionResult checkNumeric(Random& random) {
-  std::size_t choice = random.below(33);
+  std::size_t choice = random.below(32);
   const double a = drawDouble(random), b = drawDouble(random), c = drawDouble(random);
   const int32_t m = drawInteger(random), n = drawInteger(random);
   const HostBool flag1 = drawFlag(random), flag2 = drawFlag(random);
@@ -76,18 +76,9 @@ testing::AssertionResult checkNumeric(Random& random) {
       return routine(a, b, c, y1, y2, y3, x, second, y, flag1);
     };
   };
-  const auto swap = [](auto routine) {
-    return [=](double* x, double* y, double*) { return routine(*x, *y), 0; };
-  };
-  switch (choice) {
-    case 0:
-      return checkOutcome(random, "SwapDbl", swap([](double& x, double& y) { SwapDbl(&x, &y); }),
-                          swap([](double& x, double& y) { std::swap(x, y); }));
-    case 1:
-      return checkOutcome(random, showCall("LinearInterpol", a, b, y1, y2, flag1),
-                          linear(LinearInterpol), linear(transcribed::LinearInterpol));
-    default:
-      return checkOutcome(random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, flag1),
-                          quadratic(QuadraticInterpol), quadratic(transcribed::QuadraticInterpol));
-  }
+  return choice == 0 ? checkOutcome(random, showCall("LinearInterpol", a, b, y1, y2, flag1),
+                                    linear(LinearInterpol), linear(transcribed::LinearInterpol))
+                     : checkOutcome(
+                           random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, flag1),
+                           quadratic(QuadraticInterpol), quadratic(transcribed::QuadraticInterpol));
 }

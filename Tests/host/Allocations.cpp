@@ -13,12 +13,6 @@ std::atomic<long> allocationsLeft = -1;  // the next one to fail is at 0; below 
 std::atomic<long> liveAllocations = 0;
 std::atomic<long> allocations = 0;
 
-void release(void* memory) {
-  if (memory == nullptr) return;
-  std::free(memory);
-  --liveAllocations;
-}
-
 }  // namespace
 
 void* operator new(std::size_t size) {
@@ -33,10 +27,14 @@ void* operator new(std::size_t size) {
 // Those of arrays too: a sanitizer's do not come here by themselves.
 void* operator new[](std::size_t size) { return operator new(size); }
 
-void operator delete(void* memory) noexcept { release(memory); }
-void operator delete(void* memory, std::size_t) noexcept { release(memory); }
-void operator delete[](void* memory) noexcept { release(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
+void operator delete(void* memory) noexcept {
+  if (memory != nullptr) --liveAllocations;
+  std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete[](void* memory) noexcept { operator delete(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
 
 namespace {
 

@@ -5,13 +5,10 @@
 // macOS. They give the correctly rounded values of the file, so that its rows hold bit by bit on any
 // platform, and a call that the file does not have is a fault.
 #include <algorithm>
-#include <bit>
-#include <cmath>
 #include <fstream>
 #include <functional>
 #include <iomanip>
 #include <iostream>
-#include <limits>
 #include <map>
 #include <set>
 #include <sstream>
@@ -21,14 +18,12 @@
 #include <vector>
 
 #include "QUVARDBS1C.h"
+#include "support/Doubles.h"
 
 namespace {
 
 // Any NaN is the same as any other.
-uint64_t bitsOf(double x) {
-  return std::bit_cast<uint64_t>(x == x ? x : std::numeric_limits<double>::quiet_NaN());
-}
-
+uint64_t bitsOf(double x) { return std::bit_cast<uint64_t>(x == x ? x : kNaN); }
 uint64_t bitsOf(int32_t n) { return static_cast<uint32_t>(n); }
 
 void read(std::istream& row, int32_t& n) { row >> n; }
@@ -38,8 +33,7 @@ void read(std::istream& row, double& x) {
   row >> word;
   const bool isNaN = word == "nan";
   word.resize(16, '0');
-  x = isNaN ? std::numeric_limits<double>::quiet_NaN()
-            : std::bit_cast<double>(uint64_t{std::stoull(word, nullptr, 16)});
+  x = isNaN ? kNaN : std::bit_cast<double>(uint64_t{std::stoull(word, nullptr, 16)});
 }
 
 template <typename... Numbers>
@@ -123,13 +117,11 @@ void keep(const std::string& function, std::istream& row) {
   answers[{function, arguments}] = result;
 }
 
-// What is wrong with a file.
-std::vector<std::string> faultsIn(const char* path) {
-  std::vector<std::string> faults;
+// Adds what is wrong with a file.
+void check(const char* path, std::vector<std::string>& faults) {
   std::ifstream file(path);
   std::string name;
-  int rows = 0;
-  for (std::string line; std::getline(file, line); ++rows) {
+  for (std::string line; std::getline(file, line);) {
     std::istringstream row(line);
     const auto routine = kRoutines.find(name);
     if (line.ends_with(':')) {
@@ -142,8 +134,7 @@ std::vector<std::string> faultsIn(const char* path) {
       faults.push_back(name + fault);
     }
   }
-  if (rows == 0) faults.push_back(std::string("No rows in ") + path);
-  return faults;
+  if (name.empty()) faults.push_back(std::string("No rows in ") + path);
 }
 
 }  // namespace
@@ -160,9 +151,7 @@ OF_PLATFORM pow(double x, double y) noexcept { return answer("pow", x, y); }
 int main(int argc, char** argv) {
   constexpr std::size_t kShown = 10;
   std::vector<std::string> faults;
-  for (int i = 1; i < argc; ++i) {
-    for (const std::string& fault : faultsIn(argv[i])) faults.push_back(fault);
-  }
+  for (int i = 1; i < argc; ++i) check(argv[i], faults);
   for (std::size_t i = 0; i < std::min(kShown, faults.size()); ++i) std::cout << faults[i] << '\n';
   if (faults.size() > kShown) std::cout << "and " << faults.size() - kShown << " more\n";
   return argc > 1 && faults.empty() ? 0 : 1;

@@ -3,22 +3,21 @@
 #include "support/SmallScopes.h"
 
 TEST(UnitBlocks, VectorsMatchWhatThePlainFormMatches) {
+  const auto check = [](const auto& block, auto sought) {
+    EXPECT_EQ(quvard::blockMatches(block.data(), sought),
+              quvard::plainBlockMatches(block.data(), sought))
+        << "of " << testing::PrintToString(block) << " for " << testing::PrintToString(sought);
+  };
   // Units that agree in their low 16 bits, or in all but the highest bit: each at each place among
   // each of the others.
   const Text units = L"\x41\x10041\x80000041\x8041\x7FFF\x8000\xFFFF"s + L'\0';
   forEach(
-      [](wchar_t others, wchar_t unit, wchar_t sought) {
+      [&](wchar_t others, wchar_t unit, wchar_t sought) {
         for (std::size_t at = 0; at < quvard::kBlockUnits; ++at) {
           Text block(quvard::kBlockUnits, others);
           block[at] = unit;
-          const std::u16string narrowBlock = narrow(block);
-          const auto sought16 = static_cast<char16_t>(sought);
-          EXPECT_EQ(quvard::blockMatches(block.data(), sought),
-                    quvard::plainBlockMatches(block.data(), sought))
-              << showCall("blockMatches", block, Text(1, sought));
-          EXPECT_EQ(quvard::blockMatches(narrowBlock.data(), sought16),
-                    quvard::plainBlockMatches(narrowBlock.data(), sought16))
-              << showCall("blockMatches", widen(narrowBlock), Text(1, sought16));
+          check(block, sought);
+          check(narrow(block), static_cast<char16_t>(sought));
         }
       },
       units, units, units);

@@ -91,14 +91,9 @@ testing::AssertionResult gives(const char* routine, const auto& call, const auto
 }
 
 // A text as the argument of a host routine; anything else as it is.
-template <typename Argument>
-decltype(auto) asHostArgument(const Argument& argument) {
-  if constexpr (std::is_convertible_v<Argument, Text> && !std::is_null_pointer_v<Argument>) {
-    return B(Text(argument));
-  } else {
-    return argument;
-  }
-}
+inline B asHostArgument(const Text& text) { return B(text); }
+inline B asHostArgument(const wchar_t* text) { return B(Text(text)); }
+const auto& asHostArgument(const auto& argument) { return argument; }
 
 // Expects that a routine gives a result: EXPECT_GIVES(VB_StrLeft, L"He", L"Hello", 2). A host
 // routine is given host strings of the texts.

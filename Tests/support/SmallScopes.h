@@ -20,9 +20,7 @@ inline std::vector<Text> textsUpTo(std::size_t longest, const Text& units = L"ab
 // Every 32-bit integer up to a distance from 0, from the least and from the greatest one, and from
 // other places.
 inline std::vector<int32_t> integersNear(int64_t distance, std::vector<int64_t> places = {}) {
-  for (const int64_t limit : {int64_t{kLowest}, int64_t{0}, int64_t{kHighest}}) {
-    places.push_back(limit);
-  }
+  places.insert(places.end(), {kLowest, 0, kHighest});
   std::vector<int32_t> integers;
   for (const int64_t place : places) {
     for (int64_t n = place - distance; n <= place + distance; ++n) {
