@@ -22,7 +22,7 @@ using namespace std::string_view_literals;
 
 namespace {
 
-// A pattern of zeros, and what follows them.
+// A pattern of zeros, and the exponent part after them.
 struct DecimalPattern {
   int32_t decimals;
   std::wstring_view exponentPart = {};
@@ -50,11 +50,11 @@ DecimalPattern digitPattern(int32_t digits, int32_t digitsOverride) {
   return {std::max(count, 1) - 1};
 }
 
-// The two routines differ in what counts as whole: for OutputFormat what is near a whole number on
-// either side, NaN and the infinities included; for OptimalFormat what is just off a 32-bit integer
-// on the side away from zero.
+// OutputFormat and OptimalFormat differ in what counts as whole: for the one what is near a whole
+// number on either side, NaN and the infinities included; for the other what is near the 32-bit
+// integer that it is truncated to, so a number just nearer to zero than a whole one does not count.
 bool isNearWhole(double x) { return !(quvard::wholeDistance(x) > kWholeTolerance); }
-bool isJustOffWhole(double x) { return std::abs(TruncLng(x) - x) < kWholeTolerance; }
+bool isNearTruncated(double x) { return std::abs(TruncLng(x) - x) < kWholeTolerance; }
 
 const wchar_t* outputPattern(double value) {
   if (isNearWhole(value * 1e19)) return isNearWhole(value) ? L"0" : L"0.###################";
@@ -71,8 +71,9 @@ static_assert(std::size(kPowersOfTen) == 2 * kHighestPower + 1);
 
 constexpr double powerOfTen(int32_t exponent) { return kPowersOfTen[exponent + kHighestPower]; }
 
-// The logarithm and the power of the platform are slow. They are asked only where a value is so close
-// to a limit that their last bits may decide; they err by far less than this.
+// The logarithm and the power of the platform are slow. They are asked only beyond the powers above,
+// and where a value is so close to a limit that their last bits may decide. They err by far less than
+// this.
 constexpr double kDoubt = 1e-9;
 
 // The decimal exponent truncated toward zero.
@@ -86,31 +87,33 @@ int32_t exponentOf(double magnitude) {
   return TruncLng(std::log10(magnitude));
 }
 
-std::wstring_view exponentPart(int32_t exponent, int32_t decimals) {
+std::wstring_view exponentPartOf(int32_t exponent, int32_t decimals) {
   if (exponent < -int64_t{decimals}) return exponent <= -10 ? L"E-00"sv : L"E-0"sv;
   if (exponent >= 5) return exponent >= 10 ? L"E+00"sv : L"E+0"sv;
   return {};
 }
 
-bool isScaledJustOffWhole(double value, int32_t exponent) {
+bool isScaledNearTruncated(double value, int32_t exponent) {
   if (std::abs(exponent) <= kHighestPower) {
     const double scaled = value * powerOfTen(-exponent);
     const double beyondWhole = std::abs(TruncLng(scaled) - scaled);
     if (beyondWhole > kDoubt && beyondWhole < 1.0 - kDoubt) return false;
   }
-  return isJustOffWhole(std::pow(10.0, -static_cast<double>(exponent)) * value);
+  return isNearTruncated(std::pow(10.0, -static_cast<double>(exponent)) * value);
 }
 
 DecimalPattern optimalPattern(double value, int32_t decimals, HostBool useExponent,
                               HostBool keepDecimals) {
   const double magnitude = std::abs(value);
-  const bool mayScale = isSet(useExponent) && magnitude > kWholeTolerance && !std::isinf(magnitude);
-  const int32_t exponent = mayScale ? exponentOf(magnitude) : 0;
-  const std::wstring_view scale = mayScale ? exponentPart(exponent, decimals) : L""sv;
+  const bool mayHaveExponent =
+      isSet(useExponent) && magnitude > kWholeTolerance && !std::isinf(magnitude);
+  const int32_t exponent = mayHaveExponent ? exponentOf(magnitude) : 0;
+  const std::wstring_view exponentPart =
+      mayHaveExponent ? exponentPartOf(exponent, decimals) : L""sv;
 
-  const bool isPlain = isJustOffWhole(value) || (!scale.empty() && !isSet(keepDecimals) &&
-                                                 isScaledJustOffWhole(value, exponent));
-  return {isPlain ? 0 : decimals, scale};
+  const bool isPlain = isNearTruncated(value) || (!exponentPart.empty() && !isSet(keepDecimals) &&
+                                                  isScaledNearTruncated(value, exponent));
+  return {isPlain ? 0 : decimals, exponentPart};
 }
 
 }  // namespace
