@@ -114,8 +114,8 @@ BSTR SysAllocString16(const char16_t* units) {
 }
 
 std::size_t wcslen16(const char16_t* units) {
-  // A unit may only be read once the one before it is known not to end the text, so this cannot be
-  // made wide. In steps of eight, the tests are all that is left.
+  // A unit may only be read once the one before it is known not to end the text, so units cannot be
+  // read many at once. In steps of eight, the tests are all that is left.
   constexpr std::size_t kStep = 8;
   for (std::size_t start = 0;; start += kStep) {
     for (std::size_t i = start; i < start + kStep; ++i) {

@@ -20,7 +20,7 @@ concept Draft = requires(const Text& text, wchar_t* out) {
 };
 
 // Copies units, 16-bit ones extended with zeros, and returns the end of the copy. Wide units may
-// overlap their copy. An empty view may have no units at all, which std::memmove does not take.
+// overlap their copy. The pointer of an empty view may be null, which std::memmove does not take.
 inline wchar_t* copyUnits(std::wstring_view units, wchar_t* out) {
   if (!units.empty() && out != units.data())
     std::memmove(out, units.data(), units.size() * sizeof(wchar_t));

@@ -1,4 +1,4 @@
-// The truncation of a double to 32 bits that all subsystems share.
+// The truncation of a double to 32 bits, for the numerics and the number patterns.
 #ifndef QUVARDBS1C_NUMERICS_TRUNCLNG_H
 #define QUVARDBS1C_NUMERICS_TRUNCLNG_H
 

@@ -1,4 +1,4 @@
-// What all tests for whole numbers measure.
+// What IsLong, IsLongP and OutputFormat compare with their tolerance.
 #ifndef QUVARDBS1C_NUMERICS_WHOLEDISTANCE_H
 #define QUVARDBS1C_NUMERICS_WHOLEDISTANCE_H
 

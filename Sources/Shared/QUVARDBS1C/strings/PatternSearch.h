@@ -32,7 +32,7 @@ class TwoWaySearch {
     const Suffix& shorter = rising.start > falling.start ? rising : falling;
     cut_ = shorter.start;
     period_ = shorter.period;
-    // The suffix is no shorter than its period.
+    // The suffix is no shorter than its period, so that both runs compared are in the pattern.
     if (pattern.substr(0, cut_) == pattern.substr(period_, cut_)) {
       overlap_ = pattern.size() - period_;
     } else {
@@ -131,7 +131,7 @@ class PatternSearch {
     });
   }
 
-  // The same with the occurrences that overlap the one before.
+  // The same, but occurrences that overlap the one before are visited too.
   template <typename TextUnit, typename Visit>
   void forEachOverlapping(std::basic_string_view<TextUnit> text, Visit visit) const {
     if (pattern_.empty()) return;

@@ -88,12 +88,12 @@ std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view c
   return {text.data(), copyUnits(searched.substr(next), kept)};
 }
 
-// How far a text matches `chars`: for each place in the text, the number of units before it that are
-// the start of `chars`, the longest such number (Knuth, Morris and Pratt, 1977).
+// How far a text matches `chars` at a place: the greatest n for which the n units before that place
+// are the first n of `chars` (Knuth, Morris and Pratt, 1977).
 using Match = uint32_t;
 
-// One more unit. `borders[n]`, for n from 1 on, is the longest match of the first n units that is not
-// all of them.
+// The match after one more unit. `borders[n]`, for n from 1 on, is the longest match at the end of the
+// first n units of `chars` that is not all of them.
 Match extendMatch(Match match, wchar_t unit, std::wstring_view chars, const Match* borders) {
   while (match > 0 && chars[match] != unit) match = borders[match];
   return match + (chars[match] == unit ? 1 : 0);
@@ -107,11 +107,12 @@ void findBorders(std::wstring_view chars, Match* borders) {
   }
 }
 
-// For each match at a gap that is followed by the tail, `chars` without its first unit: how many units
-// before the gap are in an occurrence that reaches over it, or 0. A match of one unit is what the
-// tail lacks. A longer one has the tail's own first units after that one, so its other units and the
-// tail are the start of the tail just where the tail repeats itself after so many units.
-// `scratch` has room for the borders of the tail.
+// What follows a gap is the tail: `chars` without its first unit. For each match at the gap, this is how
+// many units before the gap are in the leftmost occurrence that reaches over it, or 0. The first r units
+// of `chars` and then the tail begin with `chars` if r is 1, and otherwise just if the tail begins with
+// its own last chars.size() - r units: that number is a border of the tail. A match for which this does
+// not hold has the reach of the next shorter match, its border. `scratch` has room for the borders of
+// the tail.
 void findReaches(std::wstring_view chars, const Match* borders, Match* reaches, Match* scratch) {
   const std::wstring_view tail = chars.substr(1);
   std::fill_n(reaches, chars.size(), 0);
@@ -126,9 +127,9 @@ void findReaches(std::wstring_view chars, const Match* borders, Match* reaches, 
   }
 }
 
-// The same for a long `chars`, in linear time. A removal leaves the tail after the gap, whatever was
-// before it, so the match at the gap alone decides where the next occurrence is: over the gap, or
-// further on. Then the match after the tail is the border of `chars`.
+// The same as removeFirstUnits for a long `chars`, in linear time. A removal leaves the tail after the
+// gap, whatever was before it, so the match at the gap alone decides where the next occurrence is: over
+// the gap, or further on. If it is further on, the match after the tail is the border of `chars`.
 std::span<wchar_t> removeFirstUnitsOfLong(std::span<wchar_t> text, std::wstring_view chars) {
   const std::size_t size = chars.size();
   if (text.size() < size) return text;

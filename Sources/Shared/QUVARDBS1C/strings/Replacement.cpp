@@ -22,6 +22,7 @@ std::wstring replaceIn(std::wstring text, std::wstring_view pattern,
   const Replaced<wchar_t, wchar_t> result(text, pattern, replacement);
   if (result.mayGrow()) {
     const std::size_t size = result.size();
+    // std::wstring itself would throw another exception.
     if (size > text.max_size()) throw std::bad_alloc();
     if (size > text.size()) {
       std::wstring grown(size, L'\0');

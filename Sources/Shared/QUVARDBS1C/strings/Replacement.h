@@ -38,13 +38,13 @@ class Replaced {
     return size();
   }
 
-  // May write over the text unless it may grow.
+  // `out` may be where the text is, unless the result may grow.
   wchar_t* write(wchar_t* out) const {
     const wchar_t* const start = out;
     const bool isOver = static_cast<const void*>(start) == text_.data();
     std::size_t from = 0;
     search_.forEach(text_, [&](std::size_t at) {
-      // Over the text, a block is free once so many units have been left out.
+      // Over the text, a whole block may be written once the result is a block behind what is read.
       const std::size_t written = static_cast<std::size_t>(out - start);
       const bool isFree = !isOver || from - written >= kBlockUnits;
       out = isFree ? copyGap(from, at, out) : copyUnits(text_.substr(from, at - from), out);
@@ -57,9 +57,9 @@ class Replaced {
  private:
   std::size_t growth() const { return replacement_.size() - pattern_.size(); }
 
-  // Copies what is between two occurrences. Most gaps are short, and a whole block is copied sooner
-  // than so many units. The units too many are written over later, or left out in the end: the room
-  // is enough, for no less of it is left than of the text.
+  // Copies what is between two occurrences. Most gaps are short, and to copy a whole block is faster
+  // than to copy a number of units that varies. What is copied too much is written over later, or is
+  // beyond the end of the result. There is room for it: at least as much is left as of the text.
   wchar_t* copyGap(std::size_t from, std::size_t to, wchar_t* out) const {
     if (to - from > kBlockUnits || text_.size() - from < kBlockUnits) {
       return copyUnits(text_.substr(from, to - from), out);

@@ -14,6 +14,7 @@ namespace {
 
 constexpr wchar_t kBlank = L' ';
 
+// Of kMatchedUnits units.
 bool isBlank(std::wstring_view stretch) { return ~quvard::matches(stretch, kBlank) == 0; }
 
 std::wstring_view trimLeft(std::wstring_view s) {

@@ -1,4 +1,4 @@
-// What the wide forms make of their own copy of a text.
+// How the wide forms make their results, most of them in their own copy of a text.
 #ifndef QUVARDBS1C_STRINGS_WIDEFORM_H
 #define QUVARDBS1C_STRINGS_WIDEFORM_H
 
@@ -16,7 +16,7 @@ inline std::wstring toWstring(const Draft auto& text) {
   return result;
 }
 
-// Writes a draft over the text that it reads, which must not be shorter at any point.
+// Writes a draft over the text that it reads; it never writes more units than it has read.
 inline void overwrite(std::wstring& text, const Draft auto& draft) {
   text.resize(static_cast<std::size_t>(draft.write(text.data()) - text.data()));
 }
