@@ -787,8 +787,9 @@ QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 /// on, and 0.7 from 4.5e-16 to 1e-12.
 ///
 /// @param x  positive. From -6.5 up to 0 the formula runs as it is: +infinity at -6.5, -6 and -4
-///           and within 4.4e-16 of -2 and 0; else NaN from -1 up to 0, from -3 up to -2, from -5 up
-///           to -4 and from about -6.19 up to -6; far off from -6.5 to -6.19
+///           and within 4.4e-16 of -2 and 0; else NaN from -1 (and the double before it) up to 0,
+///           from -3 up to -2, from -5 up to -4 and from about -6.19 up to -6; far off from -6.5 to
+///           -6.19
 /// @return   -1.79769313486231e+308 for @p x below -6.5; +infinity from about 2.56e305; NaN for
 ///           +infinity
 /// @b Example: `GammaLn(0.5) > 0.57236494292 && GammaLn(0.5) < 0.57236494293`
@@ -819,7 +820,7 @@ QUVARDBS1C_API double Fact(int32_t n) QUVARDBS1C_NOEXCEPT;
 /// | m below 2                | 1 + q                                                         |
 /// | m from 2                 | r = 1 + q, then for i = 2 to m: r = ((q + i) * r) / i         |
 ///
-/// Truncated is toward zero to a 32-bit integer; what does not fit, and NaN, counts as -2147483648.
+/// Truncation is toward zero, to a 32-bit integer; what does not fit, and NaN, gives -2147483648.
 /// Fractions and negative numbers are not refused: the table holds for them as it is. Where
 /// there are passes at all, q is finite and at least m. Each then multiplies r by 2 or more, but
 /// for rounding, so that r is infinite after at most 515 of them, whatever the arguments. No later
@@ -894,8 +895,8 @@ QUVARDBS1C_API double LCD2(double a, double b) QUVARDBS1C_NOEXCEPT;
 /// multiplied by pow(10, -places), which is rounded: `LCDDbl(1.2, 0.3)` is 0.30000000000000004. A
 /// number counts as whole if its fraction is not above 1e-12, or if it is off the nearest whole
 /// number (of two, the even one) by at most 2^-48 of itself (the rounding of decimals and of their
-/// products). Made whole, a number that is off by no more is that whole number, any other is
-/// truncated.
+/// products). A multiplied number that is off by no more than these 2^-48 becomes that whole number,
+/// any other is truncated.
 ///
 /// @param a  times the power of ten, below 2147483648 in magnitude; beyond, the result is a divisor
 ///           of other numbers
