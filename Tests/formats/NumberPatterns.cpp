@@ -13,21 +13,6 @@ TEST(NumberPatterns, ByDigitsIntoAnArray) {
   forEach([](auto... numbers) { EXPECT_TRUE(checkFormatsOf(numbers...)); }, counts, digits, digits);
 }
 
-TEST(NumberPatterns, WorkedValues) {
-  const Text decimals = L"0.###################";
-  for (const auto& [value, output, optimal, kept] :
-       {row(0.0, L"0"s, L"0", L"0"), row(3.9999999999999, L"0"s, L"0.000", L"0.000"),
-        row(1e-13, L"0"s, L"0", L"0"), row(3.3e-19, L"0E-#"s, L"0", L"0"),
-        row(2.5, decimals, L"0.000", L"0.000"), row(1e-5, decimals + L"E-#", L"0E-0", L"0.000E-0"),
-        row(5e-11, decimals, L"0.000E-00", L"0.000E-00"), row(123456.0, L"0"s, L"0E+0", L"0E+0"),
-        row(3e9, L"0"s, L"0E+0", L"0.000E+0"), row(7e20, L"0"s, L"0E+00", L"0.000E+00"),
-        row(kInf, L"0"s, L"0.000", L"0.000"), row(kNaN, L"0"s, L"0.000", L"0.000")}) {
-    EXPECT_GIVES(OutputFormat, output, value);
-    EXPECT_GIVES(OptimalFormat, optimal, value, 3, -1, 0);
-    EXPECT_GIVES(OptimalFormat, kept, value, 3, -1, -1);
-  }
-}
-
 // Where the patterns change: whole numbers and what is close to them, and powers of ten.
 TEST(NumberPatterns, AtEveryEdge) {
   std::vector<double> values{kTiny, kExtreme, kInf, kNaN, 1.0 / 3};

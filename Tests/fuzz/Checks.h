@@ -35,16 +35,15 @@ inline void announce(const auto& call) {
 
 // A part of a text: units, words that mean something, or units of another text.
 inline Text drawPart(Random& random, const std::vector<Text>& others) {
-  static const std::vector<Text> alphabets{
-      L"ab",
-      L" :;a",
-      L"<BRQMC>",
-      L"0129,",
-      L"()/",
-      L"AZaz@[`{",
-      L"a\x10061\x80000061\xFFFF\x10000\xD83D\xDE00\x7FFFFFFF"s + L'\0'};
-  static const std::vector<Text> words{L"ES", L"FR", L"IT", L"PT",   L"PL",   L"US",  L"DE",
-                                       L"JP", L"CS", L"CN", L"<BR>", L"<QM>", L"<CM>"};
+  static const Texts alphabets{L"ab",
+                               L" :;a",
+                               L"<BRQMC>",
+                               L"0129,",
+                               L"()/",
+                               L"AZaz@[`{",
+                               L"a\x10061\x80000061\xFFFF\x10000\xD83D\xDE00\x7FFFFFFF\0"s};
+  static const Texts words{L"ES", L"FR", L"IT", L"PT",   L"PL",   L"US",  L"DE",
+                           L"JP", L"CS", L"CN", L"<BR>", L"<QM>", L"<CM>"};
   const std::size_t choice = random.below(alphabets.size() + 5);
   if (choice < alphabets.size()) {
     const std::size_t longest[] = {3, 20, 70};
@@ -88,16 +87,11 @@ inline double drawDouble(Random& random) {
   if (choice == 2) x = drawInteger(random) * 0.25;
   if (choice == 3) x = drawInteger(random) / std::pow(10.0, static_cast<double>(random.below(10)));
   if (choice == 4) x = std::pow(10.0, static_cast<double>(random.below(50)) - 30.0);
-  switch (random.below(6)) {
-    case 0:
-      return x + random.between(-2e-12, 2e-12);
-    case 1:
-      return x * (1.0 + random.between(-1e-4, 1e-4));
-    case 2:
-      return std::bit_cast<double>(std::bit_cast<uint64_t>(x) + random.below(9) - 4);
-    default:
-      return x;
-  }
+  const std::size_t off = random.below(6);
+  if (off == 0) return x + random.between(-2e-12, 2e-12);
+  if (off == 1) return x * (1.0 + random.between(-1e-4, 1e-4));
+  if (off > 2) return x;
+  return std::bit_cast<double>(std::bit_cast<uint64_t>(x) + random.below(9) - 4);
 }
 
 #endif

@@ -34,9 +34,7 @@ TEST(BinomialSums, AsTranscribed) {
     }
     expectSum(n, -1e6, n < 4e9 ? 40.0 : 1e6);
   }
-  for (const double n : {5.0, 0.3, 0.5}) {
-    expectSum(n, kLowest, kLowest + 2e7);
-  }
+  for (const double n : {5.0, 0.3, 0.5}) expectSum(n, kLowest, kLowest + 2e7);
 }
 
 TEST(BinomialSums, NoArgumentRunsLong) {

@@ -42,8 +42,8 @@ struct HostRoutine {
 
   // Whether a null string ends the call before any service.
   bool isEndedBy(const Texts& texts) const {
-    const auto second = texts.begin() + std::min<std::ptrdiff_t>(2, std::ssize(texts));
-    return path->endsAtNull && std::find(texts.begin(), second, kNullHandle) != second;
+    return path->endsAtNull &&
+           (texts[0] == kNullHandle || (strings > 1 && texts[1] == kNullHandle));
   }
 
   // Whether the first text itself changes.
