@@ -57,10 +57,10 @@ double addOneByOne(double sum, const Terms& terms, double k, double end) {
 // first period, which has the first tie, every period makes the same rounding errors, and its change
 // of the sum differs from that of the period before by step * period^2. The second period is added
 // term by term, and as many as stay within the binade are then added at once, if their terms stay
-// within one too. Those terms differ by less than a factor of 2, and from one period to the next by
-// the same amount, so together they change the sum by about 3/4 of the second period's change times
-// their number, or more. That is less than 2^52 * ulp. So every number in that is a multiple of ulp of
-// at most 2^53 * ulp, and exact.
+// within one too. All of them change the sum by less than 2^52 * ulp, for it stays in its binade. Their
+// terms differ by less than a factor of 2, and from one period to the next by the same amount, so the
+// second period's change times their number is at most about 4/3 of that. So every number here is a
+// multiple of ulp of at most 2^53 * ulp, and exact.
 double addRun(double sum, const Terms& terms, double k, double end) {
   constexpr double kShort = 64.0;
   while (end - k >= kShort) {
