@@ -156,3 +156,15 @@ TEST(Allocations, OneForEachLongTextAndItsResult) {
     }
   }
 }
+
+TEST(Allocations, WideBufferIsGivenBackAboveALimit) {
+  const B small(u"small");
+  for (const auto& [length, expected] : {row((1U << 20) - 1, 0L), row(1U << 20, 1L)}) {
+    const B text(Text(length, L'x'));
+    CW162W32(text);
+    const long before = allocations;
+    CW162W32(text);
+    CW162W32(small);
+    EXPECT_EQ(allocations - before, expected) << length;
+  }
+}
