@@ -62,12 +62,12 @@ const wchar_t* outputPattern(double value) {
 }
 
 // The powers of ten with an exponent of at most kHighestPower either way.
-constexpr int32_t kHighestPower = 15;
-constexpr double kPowersOfTen[] = {1e-15, 1e-14, 1e-13, 1e-12, 1e-11, 1e-10, 1e-9, 1e-8,
-                                   1e-7,  1e-6,  1e-5,  1e-4,  1e-3,  1e-2,  1e-1, 1e0,
-                                   1e1,   1e2,   1e3,   1e4,   1e5,   1e6,   1e7,  1e8,
-                                   1e9,   1e10,  1e11,  1e12,  1e13,  1e14,  1e15};
+constexpr int32_t kHighestPower = 12;
+constexpr double kPowersOfTen[] = {1e-12, 1e-11, 1e-10, 1e-9, 1e-8, 1e-7, 1e-6, 1e-5, 1e-4,
+                                   1e-3,  1e-2,  1e-1,  1e0,  1e1,  1e2,  1e3,  1e4,  1e5,
+                                   1e6,   1e7,   1e8,   1e9,  1e10, 1e11, 1e12};
 static_assert(std::size(kPowersOfTen) == 2 * kHighestPower + 1);
+static_assert(kPowersOfTen[0] <= kWholeTolerance);
 
 constexpr double powerOfTen(int32_t exponent) { return kPowersOfTen[exponent + kHighestPower]; }
 
@@ -76,11 +76,11 @@ constexpr double powerOfTen(int32_t exponent) { return kPowersOfTen[exponent + k
 // this.
 constexpr double kDoubt = 1e-9;
 
-// The decimal exponent truncated toward zero.
+// The decimal exponent of a magnitude above kWholeTolerance, truncated toward zero.
 int32_t exponentOf(double magnitude) {
   int32_t floor = 0;
   while (floor + 1 < kHighestPower && magnitude >= powerOfTen(floor + 1)) ++floor;
-  while (floor > -kHighestPower && magnitude < powerOfTen(floor)) --floor;
+  while (magnitude < powerOfTen(floor)) --floor;
   const bool isBetween = magnitude > powerOfTen(floor) * (1.0 + kDoubt) &&
                          magnitude < powerOfTen(floor + 1) * (1.0 - kDoubt);
   if (isBetween) return floor < 0 ? floor + 1 : floor;

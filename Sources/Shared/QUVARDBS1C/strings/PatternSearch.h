@@ -131,10 +131,10 @@ class PatternSearch {
     });
   }
 
-  // The same, but occurrences that overlap the one before are visited too.
+  // The same for a pattern that is not empty, but occurrences that overlap the one before are visited
+  // too.
   template <typename TextUnit, typename Visit>
   void forEachOverlapping(std::basic_string_view<TextUnit> text, Visit visit) const {
-    if (pattern_.empty()) return;
     search(text, [&](std::size_t at) {
       visit(at);
       return at + 1;
