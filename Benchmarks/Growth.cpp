@@ -40,6 +40,7 @@ void addGrowthJobs() {
   addGrowth("Remove unit", u"a", u"", callOf(VB_RemoveChar, a));
   addGrowth("Remove pairs", u"ab", u"", callOf(VB_RemoveChar, ab));
   addGrowth("Remove pairs to the left", u"a", u"b", callOf(VB_RemoveChar, ab));
+  addGrowth("Remove threes to the left", u"ab", u"b", callOf(VB_RemoveChar, keep(u"abb")));
   addGrowth("Count unit", u",", u"", callOf(ChrCount, comma));
   addGrowth("Count pairs", u"ab", u"", callOf(ChrCount, ab));
   addGrowth("Count long in vain", u"a", u"", callOf(ChrCount, longOne));

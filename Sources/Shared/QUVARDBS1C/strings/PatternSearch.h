@@ -97,6 +97,9 @@ class TwoWaySearch {
   std::size_t overlap_ = 0;  // of two occurrences a period apart, if the whole pattern is periodic
 };
 
+// A pattern up to this length wastes at most its few units at each position of a text.
+inline constexpr std::size_t kShortPattern = 16;
+
 // The units of the texts may be wider than those of the pattern.
 template <typename Unit>
 class PatternSearch {
@@ -105,7 +108,7 @@ class PatternSearch {
 
   // The pattern outlives the search.
   explicit PatternSearch(View pattern) : pattern_(pattern) {
-    if (pattern.size() > kShort) long_.emplace(pattern);
+    if (pattern.size() > kShortPattern) long_.emplace(pattern);
   }
 
   // The position of the first occurrence, or npos. An empty pattern is found at once.
@@ -150,9 +153,6 @@ class PatternSearch {
   }
 
  private:
-  // A pattern up to this length wastes at most its few units at each position of a text.
-  static constexpr std::size_t kShort = 16;
-
   // Goes on where `visit` tells; npos ends the search.
   template <typename TextUnit, typename Visit>
   void search(std::basic_string_view<TextUnit> text, Visit visit) const {

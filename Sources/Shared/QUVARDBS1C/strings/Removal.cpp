@@ -53,39 +53,52 @@ Replaced<char16_t, char16_t> withoutColons(std::u16string_view text) { return {t
 bool isAcross(const wchar_t* at, const wchar_t* kept, std::wstring_view rest,
               std::wstring_view chars) {
   const std::size_t before = std::min(static_cast<std::size_t>(kept - at), chars.size());
+  const std::size_t after = chars.size() - before;
+  // The last unit first: within a run of one unit it is often the only one that differs.
+  if (after > rest.size() || (after > 0 && rest[after - 1] != chars.back())) return false;
   return std::equal(at, at + before, chars.begin()) && rest.starts_with(chars.substr(before));
 }
 
-// A unit is missing between the units kept and the rest of the text, so an occurrence of `chars` may
-// reach from the last ones kept into the rest. Takes the first unit out of the leftmost such
-// occurrence until there is none, and returns the end of the units kept.
-wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, std::wstring_view rest,
+// A unit is missing between the units kept and those from `next` on, so an occurrence of `chars` may
+// reach over this gap. Takes the first unit out of the leftmost occurrence that begins before the gap
+// until there is none, and returns the end of the units kept.
+wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, const wchar_t* end,
                          std::wstring_view chars) {
   const auto reach = static_cast<std::ptrdiff_t>(chars.size()) - 1;
+  const wchar_t* const firstNext = next;
   wchar_t* at = kept - std::min(kept - start, reach);
-  while (at < kept) {
+  for (;;) {
+    if (at == kept) {
+      if (next == firstNext) return kept;
+      *kept++ = *next++;
+    }
+    const std::wstring_view rest(next, static_cast<std::size_t>(end - next));
     if (*at != chars.front() || !isAcross(at, kept, rest, chars)) {
       ++at;
       continue;
     }
-    kept = std::copy(at + 1, kept, at);
+    // The units between the one taken out and the gap go to its other side for now, so that the next
+    // one taken out, further to the left, has not to move them again.
+    next = std::copy_backward(at + 1, kept, next);
+    kept = at;
     at -= std::min(at - start, reach);
   }
-  return kept;
 }
 
 // Takes the first unit out of the leftmost occurrence of `chars` until there is none, and gives what
-// is left. The units after the gap stay as they are, so what is found among them stays found.
+// is left. The units after a gap stay as they are, so what is found among them stays found.
 std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
-  const std::wstring_view searched(text.data(), text.size());
-  wchar_t* kept = text.data();
-  std::size_t next = 0;
+  wchar_t* const start = text.data();
+  wchar_t* const end = start + text.size();
+  wchar_t* kept = start;
+  wchar_t* next = start;
+  const std::wstring_view searched(start, text.size());
   quvard::PatternSearch<wchar_t>(chars).forEachOverlapping(searched, [&](std::size_t at) {
-    kept = copyUnits(searched.substr(next, at - next), kept);
-    next = at + 1;
-    kept = removeAcrossGap(text.data(), kept, searched.substr(next), chars);
+    kept = copyUnits({next, start + at}, kept);
+    next = start + at + 1;
+    kept = removeAcrossGap(start, kept, next, end, chars);
   });
-  return {text.data(), copyUnits(searched.substr(next), kept)};
+  return {start, copyUnits({next, end}, kept)};
 }
 
 // How far a text matches `chars` at a place: the greatest n for which the n units before that place
@@ -190,9 +203,8 @@ std::span<wchar_t> removeChars(std::span<wchar_t> text, std::wstring_view chars)
   if (chars.size() == 1) {
     return {text.data(), withoutUnit({text.data(), text.size()}, chars.front()).write(text.data())};
   }
-  constexpr std::size_t kShort = 16;
-  return chars.size() <= kShort ? removeFirstUnits(text, chars)
-                                : removeFirstUnitsOfLong(text, chars);
+  return chars.size() <= quvard::kShortPattern ? removeFirstUnits(text, chars)
+                                               : removeFirstUnitsOfLong(text, chars);
 }
 
 }  // namespace
