@@ -7,10 +7,7 @@
 
 namespace quvard {
 
-inline constexpr HostBool kHostTrue = -1;
-inline constexpr HostBool kHostFalse = 0;
-
-inline HostBool hostBool(bool value) { return value ? kHostTrue : kHostFalse; }
+inline HostBool hostBool(bool value) { return value ? QUVARDBS1C_TRUE : QUVARDBS1C_FALSE; }
 
 inline bool isSet(HostBool flag) { return (flag & 0xFFFF) != 0; }
 inline bool isTrue(HostBool flag) { return (flag & 0xFFFF) == 0xFFFF; }

@@ -9,8 +9,6 @@
 
 using quvard::FirstMapped;
 using quvard::isSet;
-using quvard::kHostFalse;
-using quvard::kHostTrue;
 using quvard::LetterCase;
 using quvard::viaBuffer;
 
@@ -56,7 +54,8 @@ std::wstring LocalAN(std::wstring adjective, std::wstring noun, std::wstring lan
 }
 
 BSTR VB_LocalAN(BSTR adjective, BSTR noun, BSTR language) {
-  return viaBuffer(composePhrase, adjective, noun, language, kHostTrue, kHostFalse, kHostFalse);
+  return viaBuffer(composePhrase, adjective, noun, language, QUVARDBS1C_TRUE, QUVARDBS1C_FALSE,
+                   QUVARDBS1C_FALSE);
 }
 
 BSTR VB_LocalAN2(BSTR adjective, BSTR noun, BSTR language, HostBool upperAdjective,

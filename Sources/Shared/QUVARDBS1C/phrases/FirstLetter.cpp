@@ -5,7 +5,7 @@
 #include "phrases/Languages.h"
 #include "strings/WideForm.h"
 
-using quvard::FirstLetter;
+using quvard::FirstLetterRule;
 using quvard::FirstMapped;
 using quvard::LetterCase;
 using quvard::overwrite;
@@ -15,9 +15,9 @@ namespace {
 
 FirstMapped lowerFirst(std::wstring_view text, std::wstring_view language, HostBool forceDE) {
   const quvard::Language* const row = quvard::findLanguage(language);
-  const FirstLetter rule = row == nullptr ? FirstLetter::lowered : row->firstLetter;
-  const bool stays = rule == FirstLetter::kept ||
-                     (rule == FirstLetter::keptUnlessForced && !quvard::isSet(forceDE));
+  const FirstLetterRule rule = row == nullptr ? FirstLetterRule::lowered : row->firstLetter;
+  const bool stays = rule == FirstLetterRule::kept ||
+                     (rule == FirstLetterRule::keptUnlessForced && !quvard::isSet(forceDE));
   if (stays) return {text, {}};
   return {text, LetterCase::lower};
 }

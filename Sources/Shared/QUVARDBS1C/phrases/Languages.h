@@ -9,7 +9,7 @@
 namespace quvard {
 
 // What LowerFirst does with the first letter of a text in the language.
-enum class FirstLetter { lowered, keptUnlessForced, kept };
+enum class FirstLetterRule { lowered, keptUnlessForced, kept };
 
 struct Language {
   wchar_t code[3];
@@ -18,7 +18,7 @@ struct Language {
   bool lowersNoun = false;
   bool heedsUpperAdjective = false;
   bool heedsLowerResult = false;
-  FirstLetter firstLetter = FirstLetter::lowered;
+  FirstLetterRule firstLetter = FirstLetterRule::lowered;
 };
 
 inline constexpr std::array<Language, 10> kLanguages{{
@@ -28,8 +28,8 @@ inline constexpr std::array<Language, 10> kLanguages{{
     {.code = L"PT", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
     {.code = L"PL", .nounFirst = true, .heedsNoBlank = true, .heedsLowerResult = true},
     {.code = L"US", .lowersNoun = true, .heedsUpperAdjective = true, .heedsLowerResult = true},
-    {.code = L"DE", .heedsUpperAdjective = true, .firstLetter = FirstLetter::keptUnlessForced},
-    {.code = L"JP", .heedsNoBlank = true, .firstLetter = FirstLetter::kept},
+    {.code = L"DE", .heedsUpperAdjective = true, .firstLetter = FirstLetterRule::keptUnlessForced},
+    {.code = L"JP", .heedsNoBlank = true, .firstLetter = FirstLetterRule::kept},
     {.code = L"CS", .heedsNoBlank = true},
     {.code = L"CN", .heedsNoBlank = true},
 }};
