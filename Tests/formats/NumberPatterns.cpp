@@ -24,7 +24,7 @@ TEST(NumberPatterns, AtEveryEdge) {
       add(whole + off), add(whole - off);
   }
   for (int exponent = -40; exponent <= 25; ++exponent) {
-    for (const double digits : {1.0, 3.0, 9.99}) add(digits * std::pow(10.0, exponent));
+    for (const double digits : {1.0, 1.2, 3.0, 9.99}) add(digits * std::pow(10.0, exponent));
   }
   const std::vector<int32_t> limits{kLowest, -11, -2, -1, 0, 1, 2, 3, 9, 12, 40};
   const std::vector<HostBool> flags{0, -1};
