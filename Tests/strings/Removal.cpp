@@ -4,6 +4,21 @@ TEST(Removal, CharOfEveryShortText) {
   EXPECT_SAME(RemoveChar, stepwise::RemoveChar, textsUpTo(11), textsUpTo(6));
 }
 
+// More units than the first form takes, so that a removal completes the next one again and again.
+TEST(Removal, CharOfLongPeriods) {
+  for (const Text& period : textsUpTo(4)) {
+    if (period.empty()) continue;
+    Text chars;
+    while (chars.size() < 19) chars += period;
+    const Texts pieces{chars, chars.substr(1), chars.substr(0, 9), chars.substr(9), L"a", L"b"};
+    Texts texts{L""};
+    for (std::size_t i = 0; texts.size() < 1500; ++i) {
+      for (const Text& piece : pieces) texts.push_back(texts[i] + piece);
+    }
+    EXPECT_SAME(RemoveChar, stepwise::RemoveChar, texts, Texts{chars, chars + L'b'});
+  }
+}
+
 TEST(Removal, CharIsOnePass) {
   const Text a(300000, L'a'), b(300000, L'b');
   EXPECT_GIVES(RemoveChar, b, a + b, L"ab");
@@ -15,6 +30,7 @@ TEST(Removal, CharIsOnePass) {
   Text pairs;
   for (int i = 0; i < 1500000; ++i) pairs += L"ab";
   EXPECT_GIVES(RemoveChar, Text(1500001, L'b'), pairs + L'b', L"abb");
+  EXPECT_GIVES(RemoveChar, Text(1500000, L'b'), pairs, L"ab");
   Text blocks;
   for (int i = 0; i < 300; ++i) blocks += b[0] + a.substr(0, 999);
   EXPECT_GIVES(RemoveChar, a.substr(0, 300 * 999) + a, blocks + a, b[0] + a.substr(0, 150000));
