@@ -49,21 +49,21 @@ auto digitsOf(std::wstring_view text) {
 
 Replaced<char16_t, char16_t> withoutColons(std::u16string_view text) { return {text, u":", {}}; }
 
-// Whether the units from `at` to `kept`, and then those of `rest`, begin with `chars`.
-bool isAcross(const wchar_t* at, const wchar_t* kept, std::wstring_view rest,
+// Whether the units from `at` to `kept`, of which `chars` has more, and then those from `next` on are
+// `chars`.
+bool isAcross(const wchar_t* at, const wchar_t* kept, const wchar_t* next,
               std::wstring_view chars) {
-  const std::size_t before = std::min(static_cast<std::size_t>(kept - at), chars.size());
-  const std::size_t after = chars.size() - before;
+  const auto before = static_cast<std::size_t>(kept - at);
+  const std::wstring_view after(next, chars.size() - before);
   // The last unit first: within a run of one unit it is often the only one that differs.
-  if (after > rest.size() || (after > 0 && rest[after - 1] != chars.back())) return false;
-  return std::equal(at, at + before, chars.begin()) && rest.starts_with(chars.substr(before));
+  return after.back() == chars.back() && std::equal(at, kept, chars.begin()) &&
+         after == chars.substr(before);
 }
 
-// A unit is missing between the units kept and those from `next` on, so an occurrence of `chars` may
-// reach over this gap. Takes the first unit out of the leftmost occurrence that begins before the gap
-// until there is none, and returns the end of the units kept.
-wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, const wchar_t* end,
-                         std::wstring_view chars) {
+// The first unit of an occurrence is missing between the units kept and those from `next` on, so
+// another one may reach over this gap. Takes the first unit out of the leftmost occurrence that begins
+// before the gap until there is none, and returns the end of the units kept.
+wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, std::wstring_view chars) {
   const auto reach = static_cast<std::ptrdiff_t>(chars.size()) - 1;
   const wchar_t* const firstNext = next;
   wchar_t* at = kept - std::min(kept - start, reach);
@@ -72,8 +72,7 @@ wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, const wch
       if (next == firstNext) return kept;
       *kept++ = *next++;
     }
-    const std::wstring_view rest(next, static_cast<std::size_t>(end - next));
-    if (*at != chars.front() || !isAcross(at, kept, rest, chars)) {
+    if (*at != chars.front() || !isAcross(at, kept, next, chars)) {
       ++at;
       continue;
     }
@@ -89,16 +88,15 @@ wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, const wch
 // is left. The units after a gap stay as they are, so what is found among them stays found.
 std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
   wchar_t* const start = text.data();
-  wchar_t* const end = start + text.size();
   wchar_t* kept = start;
   wchar_t* next = start;
   const std::wstring_view searched(start, text.size());
   quvard::PatternSearch<wchar_t>(chars).forEachOverlapping(searched, [&](std::size_t at) {
     kept = copyUnits({next, start + at}, kept);
     next = start + at + 1;
-    kept = removeAcrossGap(start, kept, next, end, chars);
+    kept = removeAcrossGap(start, kept, next, chars);
   });
-  return {start, copyUnits({next, end}, kept)};
+  return {start, copyUnits({next, start + text.size()}, kept)};
 }
 
 // How far a text matches `chars` at a place: the greatest n for which the n units before that place
