@@ -19,7 +19,8 @@ testing::AssertionResult checkOutcome(Random& random, const std::string& call, a
     return v;
   };
   const Outcome actual = outcome(routine), expected = outcome(steps);
-  if (std::ranges::equal(actual, expected, [](double x, double y) { return same(x, y); })) {
+  if (std::equal(actual.begin(), actual.end(), expected.begin(),
+                 [](double x, double y) { return same(x, y); })) {
     return testing::AssertionSuccess();
   }
   const auto show = [](const char* what, const Outcome& v) {
