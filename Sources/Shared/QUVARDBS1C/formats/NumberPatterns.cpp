@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <iterator>
 #include <string_view>
 
@@ -94,7 +93,8 @@ std::wstring_view exponentPartOf(int32_t exponent, int32_t decimals) {
 }
 
 bool isScaledNearTruncated(double value, int32_t exponent) {
-  if (std::abs(exponent) <= kHighestPower) {
+  // As an unsigned number one that is too low is too high.
+  if (static_cast<uint32_t>(exponent + kHighestPower) < std::size(kPowersOfTen)) {
     const double scaled = value * powerOfTen(-exponent);
     const double beyondWhole = std::abs(TruncLng(scaled) - scaled);
     if (beyondWhole > kDoubt && beyondWhole < 1.0 - kDoubt) return false;
