@@ -36,6 +36,7 @@ struct DecimalPattern {
       *out++ = L'.';
       out = std::fill_n(out, decimals, L'0');
     }
+    // At most five units, for which a loop is quicker than the call that copyUnits makes.
     for (const wchar_t unit : exponentPart) *out++ = unit;
     return out;
   }
@@ -93,7 +94,7 @@ std::wstring_view exponentPartOf(int32_t exponent, int32_t decimals) {
 }
 
 bool isScaledNearTruncated(double value, int32_t exponent) {
-  // As an unsigned number one that is too low is too high.
+  // Within the table either way: as an unsigned number, one that is too low is too high.
   if (static_cast<uint32_t>(exponent + kHighestPower) < std::size(kPowersOfTen)) {
     const double scaled = value * powerOfTen(-exponent);
     const double beyondWhole = std::abs(TruncLng(scaled) - scaled);
