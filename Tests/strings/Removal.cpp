@@ -28,9 +28,9 @@ TEST(Removal, CharIsOnePass) {
   EXPECT_GIVES(RemoveChar, Text(149999, L'a'), a, Text(150000, L'a'));
   // Each removal completes an occurrence further to the left.
   Text pairs;
-  for (int i = 0; i < 1500000; ++i) pairs += L"ab";
-  EXPECT_GIVES(RemoveChar, Text(1500001, L'b'), pairs + L'b', L"abb");
-  EXPECT_GIVES(RemoveChar, Text(1500000, L'b'), pairs, L"ab");
+  for (int i = 0; i < 2500000; ++i) pairs += L"ab";
+  EXPECT_GIVES(RemoveChar, Text(2500001, L'b'), pairs + L'b', L"abb");
+  EXPECT_GIVES(RemoveChar, Text(2500000, L'b'), pairs, L"ab");
   Text blocks;
   for (int i = 0; i < 300; ++i) blocks += b[0] + a.substr(0, 999);
   EXPECT_GIVES(RemoveChar, a.substr(0, 300 * 999) + a, blocks + a, b[0] + a.substr(0, 150000));
