@@ -18,8 +18,8 @@
 /// - An argument is never changed, kept or released. A null host string reads as the empty string.
 /// - A resulting host string is new on every call. The caller owns it and releases it with
 ///   `releaseBSTR` of `QUVARDCR1C`.
-/// - No routine keeps anything between calls or waits for another thread, so any number may run at
-///   once.
+/// - No call depends on an earlier one or waits for another thread, so any number may run at once. Only
+///   a buffer for each thread stays, as CW162W32() in QUVARDCR1C.h describes.
 /// - Routines that deal in strings may throw `std::bad_alloc` and nothing else, and leak nothing
 ///   when they do. **Only a C++ caller can catch it; in any other host it ends the process.** Numeric
 ///   routines do not throw.

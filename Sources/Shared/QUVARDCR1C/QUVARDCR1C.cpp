@@ -1,79 +1,12 @@
 #include "QUVARDCR1C.h"
 
-#include <pthread.h>
-
-#include <atomic>
-#include <bit>
 #include <cstdint>
-#include <cstdlib>
 #include <cwchar>
 #include <memory>
-#include <new>
+
+#include "ThreadBuffer.h"
 
 namespace {
-
-// The wide buffer of a thread. A buffer above this size (4 MiB) goes when the next text fits below
-// it.
-constexpr std::size_t kKeptUnits = std::size_t{1} << 20;
-constexpr std::size_t kFirstUnits = 256;
-
-// Without a destructor, so that it is as it was for calls that come after the destructors of the
-// thread or of the process: such a call allocates anew.
-struct ThreadBuffer {
-  wchar_t* units;
-  std::size_t capacity;
-};
-
-constinit thread_local ThreadBuffer threadBuffer{};
-
-void releaseThreadBuffer(void* buffer) {
-  delete[] static_cast<wchar_t*>(buffer);
-  threadBuffer = {};
-}
-
-std::atomic<bool> processEnds = false;
-
-void releaseAtExit();
-
-// The destructor of a key runs when a thread ends, after the destructors of its thread-local
-// variables, and once more if a call in between has allocated anew. It does not run for the thread
-// that ends the process: there, what is registered with atexit does.
-pthread_key_t makeReleaseKey() {
-  pthread_key_t key{};
-  if (pthread_key_create(&key, releaseThreadBuffer) != 0) throw std::bad_alloc();
-  std::atexit(releaseAtExit);
-  return key;
-}
-
-// Sees to it that this buffer of the thread is released in the end; null for none.
-void releaseInTheEnd(wchar_t* buffer) {
-  static const pthread_key_t key = makeReleaseKey();
-  if (pthread_setspecific(key, buffer) != 0) throw std::bad_alloc();
-  if (processEnds && buffer != nullptr) std::atexit(releaseAtExit);
-}
-
-void releaseAtExit() {
-  processEnds = true;
-  releaseInTheEnd(nullptr);
-  releaseThreadBuffer(threadBuffer.units);
-}
-
-void replaceThreadBuffer(std::size_t units) {
-  const std::size_t room = units <= kFirstUnits ? kFirstUnits : std::bit_ceil(units);
-  // The old one goes first, so that both are never in memory at once.
-  releaseInTheEnd(nullptr);
-  releaseThreadBuffer(threadBuffer.units);
-  std::unique_ptr<wchar_t[]> buffer(new wchar_t[room]);
-  releaseInTheEnd(buffer.get());
-  threadBuffer = {buffer.release(), room};
-}
-
-wchar_t* threadBufferFor(std::size_t units) {
-  const std::size_t capacity = threadBuffer.capacity;
-  if (units > capacity || (capacity > kKeptUnits && units <= kKeptUnits))
-    replaceThreadBuffer(units);
-  return threadBuffer.units;
-}
 
 constexpr std::uint32_t kLastBmp = 0xFFFF;
 constexpr std::uint32_t kLastCodePoint = 0x10FFFF;
@@ -128,7 +61,7 @@ void releaseBSTR(BSTR handle) { delete[] handle; }
 
 wchar_t* CW162W32(BSTR handle) {
   const std::size_t length = wcslen16(handle);
-  wchar_t* const wide = threadBufferFor(length + 1);
+  wchar_t* const wide = threadBuffer(length + 1);
   for (std::size_t i = 0; i < length; ++i) wide[i] = static_cast<wchar_t>(handle[i]);
   wide[length] = 0;
   return wide;

@@ -56,11 +56,15 @@ QUVARDCR1C_API size_t wcslen16(const QUVARDUnit16* units);
 /// Releases a host string that a service or a host routine made; null is allowed. Does not throw.
 QUVARDCR1C_API void releaseBSTR(BSTR handle);
 
-/// The units of @p handle as wide units, zero-terminated.
+/// Returns the code units of @p handle as wide code units, null-terminated.
+///
+/// A thread keeps its buffer: 1 KiB at first, 4 bytes per code unit for longer texts, at most 4 MiB. A
+/// larger one is released when the thread's next text fits into 4 MiB. The buffer of a thread that has
+/// ended is released when another thread gets its first buffer or a new one.
 ///
 /// @param handle  host string, not null
-/// @return        buffer of the calling thread, which its next call reuses; never released by a
-///                caller
+/// @return        buffer of the calling thread, valid until the thread's next call of CW162W32(); not
+///                released by the caller
 /// @throws std::bad_alloc
 QUVARDCR1C_API wchar_t* CW162W32(BSTR handle);
 
