@@ -9,12 +9,10 @@
 #include "numerics/Constants.h"
 #include "numerics/TruncLng.h"
 #include "numerics/WholeDistance.h"
-#include "strings/WideForm.h"
 
-using quvard::giveOut;
 using quvard::isSet;
 using quvard::kWholeTolerance;
-using quvard::toWstring;
+using quvard::TextBuffer;
 using quvard::TruncLng;
 
 using namespace std::string_view_literals;
@@ -26,21 +24,27 @@ struct DecimalPattern {
   int32_t decimals;
   std::wstring_view exponentPart = {};
 
-  std::size_t room() const {
-    return static_cast<std::size_t>(std::max(decimals, 0)) + 2 + exponentPart.size();
-  }
-
-  wchar_t* write(wchar_t* out) const {
-    *out++ = L'0';
+  void appendTo(auto& output) const {
+    output.push_back(L'0');
     if (decimals > 0) {
-      *out++ = L'.';
-      out = std::fill_n(out, decimals, L'0');
+      output.push_back(L'.');
+      output.append(static_cast<std::size_t>(decimals), L'0');
     }
-    // At most five units, for which a loop is quicker than the call that copyUnits makes.
-    for (const wchar_t unit : exponentPart) *out++ = unit;
-    return out;
+    output.append(exponentPart);
   }
 };
+
+std::wstring wide(const DecimalPattern& pattern) {
+  std::wstring text;
+  pattern.appendTo(text);
+  return text;
+}
+
+BSTR newHostString(const DecimalPattern& pattern) {
+  TextBuffer text;
+  pattern.appendTo(text);
+  return quvard::newHostString(text);
+}
 
 constexpr int32_t kNoOverride = -1;
 
@@ -119,30 +123,32 @@ DecimalPattern optimalPattern(double value, int32_t decimals, HostBool useExpone
 
 }  // namespace
 
-std::wstring DecimalFormat(int32_t decimals) { return toWstring(DecimalPattern{decimals}); }
+std::wstring DecimalFormat(int32_t decimals) { return wide(DecimalPattern{decimals}); }
 
 void SetFormat(std::wstring* formats, int32_t count, int32_t digits, int32_t digitsOverride) {
   if (count < 1) return;
-  std::fill_n(formats, count, toWstring(digitPattern(digits, digitsOverride)));
+  std::fill_n(formats, count, wide(digitPattern(digits, digitsOverride)));
 }
 
 std::wstring OutputFormat(double value) { return outputPattern(value); }
 
 std::wstring OptimalFormat(double value, int32_t decimals, HostBool useExponent,
                            HostBool keepDecimals) {
-  return toWstring(optimalPattern(value, decimals, useExponent, keepDecimals));
+  return wide(optimalPattern(value, decimals, useExponent, keepDecimals));
 }
 
-BSTR Cpp_DecimalFormat(int32_t decimals) { return giveOut(DecimalPattern{decimals}); }
+BSTR Cpp_DecimalFormat(int32_t decimals) { return newHostString(DecimalPattern{decimals}); }
 
 void VB_SetFormat(BSTR* formats, int32_t count, int32_t digits, int32_t digitsOverride) {
   if (count < 1) return;
-  const quvard::TextBuffer pattern(digitPattern(digits, digitsOverride));
-  std::generate_n(formats, count, [&pattern] { return giveOut(pattern.c_str()); });
+  TextBuffer pattern;
+  digitPattern(digits, digitsOverride).appendTo(pattern);
+  const wchar_t* const text = pattern.c_str();
+  std::generate_n(formats, count, [text] { return SysAllocString2(text); });
 }
 
-BSTR VB_OutputFormat(double value) { return giveOut(outputPattern(value)); }
+BSTR VB_OutputFormat(double value) { return SysAllocString2(outputPattern(value)); }
 
 BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool useExponent, HostBool keepDecimals) {
-  return giveOut(optimalPattern(value, decimals, useExponent, keepDecimals));
+  return newHostString(optimalPattern(value, decimals, useExponent, keepDecimals));
 }

@@ -1,3 +1,3 @@
 #include "host/Boundary.h"
 
-std::wstring convToWstring(BSTR handle) { return std::wstring(quvard::bufferOf(handle)); }
+std::wstring convToWstring(BSTR handle) { return std::wstring(quvard::wideText(handle)); }

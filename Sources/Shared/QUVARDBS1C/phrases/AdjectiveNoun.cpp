@@ -1,64 +1,84 @@
 #include <string_view>
-#include <utility>
 
 #include "host/Boundary.h"
 #include "host/HostBool.h"
-#include "phrases/FirstLetter.h"
 #include "phrases/Languages.h"
-#include "strings/WideForm.h"
+#include "strings/PlatformCase.h"
 
-using quvard::FirstMapped;
 using quvard::isSet;
 using quvard::LetterCase;
-using quvard::viaBuffer;
+using quvard::TextBuffer;
+using quvard::wideText;
 
 namespace {
 
-struct Phrase {
-  FirstMapped first;
-  std::wstring_view separator;
-  FirstMapped second;
-  bool isLowered;
-
-  std::size_t room() const { return first.room() + separator.size() + second.room(); }
-
-  wchar_t* write(wchar_t* out) const {
-    wchar_t* end = quvard::copyUnits(separator, first.write(out));
-    end = second.write(end);
-    if (isLowered) mapFirst({out, end}, LetterCase::lower);
-    return end;
-  }
+struct PhraseFlags {
+  HostBool upperAdjective, lowerResult, noBlank;
 };
 
-Phrase composePhrase(std::wstring_view adjective, std::wstring_view noun,
-                     std::wstring_view language, HostBool upperAdjective, HostBool lowerResult,
-                     HostBool noBlank) {
+// Appends the phrase to `output`, which is empty.
+void composePhrase(auto& output, std::wstring_view adjective, std::wstring_view noun,
+                   std::wstring_view language, const PhraseFlags& flags) {
   const quvard::Language* const row = quvard::findLanguage(language);
-  if (row == nullptr) return {};
+  if (row == nullptr) return;
 
-  FirstMapped first{adjective, {}};
-  FirstMapped second{noun, {}};
-  if (row->heedsUpperAdjective && isSet(upperAdjective)) first.letterCase = LetterCase::upper;
-  if (row->lowersNoun) second.letterCase = LetterCase::lower;
-  if (row->nounFirst) std::swap(first, second);
-  const bool isJoined = row->heedsNoBlank && isSet(noBlank);
-  return {first, isJoined ? L"" : L" ", second, row->heedsLowerResult && isSet(lowerResult)};
+  output.reserve(adjective.size() + noun.size() + 1);
+  const auto mapFirstFrom = [&output](std::size_t start, LetterCase letterCase) {
+    quvard::mapFirst({output.data() + start, output.size() - start}, letterCase);
+  };
+  const auto appendAdjective = [&] {
+    const std::size_t start = output.size();
+    output.append(adjective);
+    if (row->heedsUpperAdjective && isSet(flags.upperAdjective)) {
+      mapFirstFrom(start, LetterCase::upper);
+    }
+  };
+  const auto appendNoun = [&] {
+    const std::size_t start = output.size();
+    output.append(noun);
+    if (row->lowersNoun) mapFirstFrom(start, LetterCase::lower);
+  };
+  const auto appendSeparator = [&] {
+    if (!(row->heedsNoBlank && isSet(flags.noBlank))) output.push_back(L' ');
+  };
+
+  if (row->nounFirst) {
+    appendNoun();
+    appendSeparator();
+    appendAdjective();
+  } else {
+    appendAdjective();
+    appendSeparator();
+    appendNoun();
+  }
+  if (row->heedsLowerResult && isSet(flags.lowerResult)) mapFirstFrom(0, LetterCase::lower);
+}
+
+BSTR composeHostPhrase(BSTR adjective, BSTR noun, BSTR language, const PhraseFlags& flags) {
+  const TextBuffer wideAdjective(wideText(adjective));
+  const TextBuffer wideNoun(wideText(noun));
+  TextBuffer phrase;
+  composePhrase(phrase, wideAdjective, wideNoun, wideText(language), flags);
+  return newHostString(phrase);
 }
 
 }  // namespace
 
 std::wstring LocalAN(std::wstring adjective, std::wstring noun, std::wstring language,
                      HostBool upperAdjective, HostBool lowerResult, HostBool noBlank) {
-  return quvard::toWstring(
-      composePhrase(adjective, noun, language, upperAdjective, lowerResult, noBlank));
+  std::wstring phrase;
+  composePhrase(phrase, adjective, noun, language, {upperAdjective, lowerResult, noBlank});
+  return phrase;
 }
 
 BSTR VB_LocalAN(BSTR adjective, BSTR noun, BSTR language) {
-  return viaBuffer(composePhrase, adjective, noun, language, QUVARDBS1C_TRUE, QUVARDBS1C_FALSE,
-                   QUVARDBS1C_FALSE);
+  return composeHostPhrase(adjective, noun, language,
+                           {.upperAdjective = QUVARDBS1C_TRUE,
+                            .lowerResult = QUVARDBS1C_FALSE,
+                            .noBlank = QUVARDBS1C_FALSE});
 }
 
 BSTR VB_LocalAN2(BSTR adjective, BSTR noun, BSTR language, HostBool upperAdjective,
                  HostBool lowerResult, HostBool noBlank) {
-  return viaBuffer(composePhrase, adjective, noun, language, upperAdjective, lowerResult, noBlank);
+  return composeHostPhrase(adjective, noun, language, {upperAdjective, lowerResult, noBlank});
 }

@@ -1,43 +1,41 @@
-#include "phrases/FirstLetter.h"
-
 #include "host/Boundary.h"
 #include "host/HostBool.h"
 #include "phrases/Languages.h"
-#include "strings/WideForm.h"
+#include "strings/PlatformCase.h"
 
 using quvard::FirstLetterRule;
-using quvard::FirstMapped;
 using quvard::LetterCase;
-using quvard::overwrite;
-using quvard::viaBuffer;
+using quvard::TextBuffer;
+using quvard::wideText;
 
 namespace {
 
-FirstMapped lowerFirst(std::wstring_view text, std::wstring_view language, HostBool forceDE) {
+bool isLowered(std::wstring_view language, HostBool forceDE) {
   const quvard::Language* const row = quvard::findLanguage(language);
-  const FirstLetterRule rule = row == nullptr ? FirstLetterRule::lowered : row->firstLetter;
-  const bool stays = rule == FirstLetterRule::kept ||
-                     (rule == FirstLetterRule::keptUnlessForced && !quvard::isSet(forceDE));
-  if (stays) return {text, {}};
-  return {text, LetterCase::lower};
+  if (row == nullptr || row->firstLetter == FirstLetterRule::lowered) return true;
+  return row->firstLetter == FirstLetterRule::keptUnlessForced && quvard::isSet(forceDE);
 }
-
-FirstMapped upperFirst(std::wstring_view text) { return {text, LetterCase::upper}; }
 
 }  // namespace
 
 std::wstring LowerFirst(std::wstring text, std::wstring language, HostBool forceDE) {
-  overwrite(text, lowerFirst(text, language, forceDE));
+  if (isLowered(language, forceDE)) mapFirst(text, LetterCase::lower);
   return text;
 }
 
 std::wstring UpperFirst(std::wstring text) {
-  overwrite(text, upperFirst(text));
+  mapFirst(text, LetterCase::upper);
   return text;
 }
 
 BSTR VB_LowerFirst(BSTR text, BSTR language, HostBool forceDE) {
-  return viaBuffer(lowerFirst, text, language, forceDE);
+  TextBuffer wide(wideText(text));
+  if (isLowered(wideText(language), forceDE)) mapFirst(wide, LetterCase::lower);
+  return newHostString(wide);
 }
 
-BSTR VB_UpperFirst(BSTR text) { return viaBuffer(upperFirst, text); }
+BSTR VB_UpperFirst(BSTR text) {
+  TextBuffer wide(wideText(text));
+  mapFirst(wide, LetterCase::upper);
+  return newHostString(wide);
+}

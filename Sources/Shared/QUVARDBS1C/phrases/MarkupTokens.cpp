@@ -1,10 +1,10 @@
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <string_view>
 
 #include "host/Boundary.h"
 #include "strings/PatternSearch.h"
-#include "strings/WideForm.h"
 
 namespace {
 
@@ -20,34 +20,34 @@ constexpr MarkupToken kMarkupTokens[] = {
     {.units = {L'<', L'C', L'M', L'>'}, .character = L','},
 };
 
-// A text with the characters in the place of their tokens.
-struct Unmarked {
-  std::wstring_view text;
-
-  std::size_t room() const { return text.size(); }
-
-  wchar_t* write(wchar_t* out) const {
-    std::size_t from = 0;
-    quvard::PatternSearch<wchar_t>(L"<").forEach(text, [&](std::size_t at) {
-      for (const auto& [units, character] : kMarkupTokens) {
-        if (text.size() - at < std::size(units)) return;
-        if (!std::equal(std::begin(units), std::end(units), text.begin() + at)) continue;
-        out = quvard::copyUnits(text.substr(from, at - from), out);
-        *out++ = character;
-        from = at + std::size(units);
-      }
-    });
-    return quvard::copyUnits(text.substr(from), out);
-  }
-};
-
-Unmarked unmark(std::wstring_view text) { return {text}; }
+// Writes the text to `out`, which may be the text itself, with the characters in place of their tokens,
+// and returns its new size.
+std::size_t replaceTokens(std::wstring_view text, wchar_t* out) {
+  const wchar_t* const start = out;
+  std::size_t next = 0;
+  quvard::PatternSearch<wchar_t>(L"<").forEach(text, [&](std::size_t at) {
+    for (const auto& [units, character] : kMarkupTokens) {
+      if (text.size() - at < std::size(units)) return;
+      if (!std::equal(std::begin(units), std::end(units), text.begin() + at)) continue;
+      out = quvard::moveUnits(text.substr(next, at - next), out);
+      *out++ = character;
+      next = at + std::size(units);
+    }
+  });
+  return static_cast<std::size_t>(quvard::moveUnits(text.substr(next), out) - start);
+}
 
 }  // namespace
 
 std::wstring QUVARDHTMLProcessor(std::wstring text) {
-  quvard::overwrite(text, unmark(text));
+  text.resize(replaceTokens(text, text.data()));
   return text;
 }
 
-BSTR VB_QUVARDHTMLProcessor(BSTR text) { return quvard::viaBuffer(unmark, text); }
+BSTR VB_QUVARDHTMLProcessor(BSTR text) {
+  const std::wstring_view wide = quvard::wideText(text);
+  quvard::TextBuffer result;
+  result.resize(wide.size());
+  result.resize(replaceTokens(wide, result.data()));
+  return newHostString(result);
+}

@@ -1,42 +1,39 @@
 #include <string_view>
 
 #include "host/Boundary.h"
-#include "strings/WideForm.h"
 
-using quvard::toWstring;
-using quvard::viaBuffer;
+using quvard::TextBuffer;
+using quvard::wideText;
 
 namespace {
 
-struct Wrapped {
-  wchar_t opening;
-  std::wstring_view text;
-  wchar_t closing;
+void appendWrapped(auto& output, wchar_t opening, std::wstring_view text, wchar_t closing) {
+  output.reserve(text.size() + 2);
+  output.push_back(opening);
+  output.append(text);
+  output.push_back(closing);
+}
 
-  std::size_t room() const { return text.size() + 2; }
+std::wstring wrap(wchar_t opening, std::wstring_view text, wchar_t closing) {
+  std::wstring wrapped;
+  appendWrapped(wrapped, opening, text, closing);
+  return wrapped;
+}
 
-  wchar_t* write(wchar_t* out) const {
-    *out++ = opening;
-    out = quvard::copyUnits(text, out);
-    *out++ = closing;
-    return out;
-  }
-};
-
-Wrapped inBlanks(std::wstring_view text) { return {L' ', text, L' '}; }
-
-Wrapped inParentheses(std::wstring_view text) { return {L'(', text, L')'}; }
-
-Wrapped inBrackets(std::wstring_view text) { return {L'[', text, L']'}; }
+BSTR wrapHostString(wchar_t opening, BSTR text, wchar_t closing) {
+  TextBuffer wrapped;
+  appendWrapped(wrapped, opening, wideText(text), closing);
+  return newHostString(wrapped);
+}
 
 }  // namespace
 
-std::wstring SpStrSp(std::wstring text) { return toWstring(inBlanks(text)); }
+std::wstring SpStrSp(std::wstring text) { return wrap(L' ', text, L' '); }
 
-std::wstring PStrP(std::wstring text) { return toWstring(inParentheses(text)); }
+std::wstring PStrP(std::wstring text) { return wrap(L'(', text, L')'); }
 
-BSTR VB_SpStrSp(BSTR text) { return quvard::viaObject(SpStrSp, text); }
+BSTR VB_SpStrSp(BSTR text) { return convertWstringToBSTR(SpStrSp(convertBSTRtoWstring(text))); }
 
-BSTR VB_PStrP(BSTR text) { return viaBuffer(inParentheses, text); }
+BSTR VB_PStrP(BSTR text) { return wrapHostString(L'(', text, L')'); }
 
-BSTR VB_BStrB(BSTR text) { return viaBuffer(inBrackets, text); }
+BSTR VB_BStrB(BSTR text) { return wrapHostString(L'[', text, L']'); }

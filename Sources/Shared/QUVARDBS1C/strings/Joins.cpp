@@ -8,5 +8,7 @@ std::wstring StrConcat(std::wstring a, std::wstring b, std::wstring c, std::wstr
 }
 
 BSTR VB_StrConcat(BSTR a, BSTR b, BSTR c, BSTR d, BSTR e, BSTR f) {
-  return quvard::joinViaBuffer(a, b, c, d, e, f);
+  quvard::TextBuffer joined;
+  for (const BSTR text : {a, b, c, d, e, f}) joined.append(quvard::wideText(text));
+  return newHostString(joined);
 }

@@ -111,6 +111,8 @@ class PatternSearch {
     if (pattern.size() > kShortPattern) long_.emplace(pattern);
   }
 
+  std::size_t patternSize() const { return pattern_.size(); }
+
   // The position of the first occurrence, or npos. An empty pattern is found at once.
   template <typename TextUnit>
   std::size_t find(std::basic_string_view<TextUnit> text) const {

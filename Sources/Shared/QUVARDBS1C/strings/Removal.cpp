@@ -9,45 +9,33 @@
 #include <utility>
 
 #include "host/Boundary.h"
-#include "strings/Replacement.h"
-#include "strings/WideForm.h"
+#include "strings/PatternSearch.h"
 
-using quvard::copyUnits;
-using quvard::overwrite;
-using quvard::Replaced;
-using quvard::viaBuffer;
+using quvard::moveUnits;
+using quvard::TextBuffer;
+using quvard::wideText;
 
 namespace {
 
-// The units of a text that are to stay.
-template <typename Keep>
-struct Kept {
-  std::wstring_view text;
-  Keep keep;
-
-  std::size_t room() const { return text.size(); }
-
-  // Without a branch for each unit: one that is not kept is overwritten by the next one.
-  wchar_t* write(wchar_t* out) const {
-    for (const wchar_t unit : text) {
-      *out = unit;
-      out += keep(unit) ? 1 : 0;
-    }
-    return out;
+// Writes the code units that satisfy `keep` to `out`, which may be the text itself, and returns their
+// number. Each unit is written, and overwritten by the next one if it is not kept: without a branch that
+// the processor cannot predict.
+std::size_t copyIf(auto text, wchar_t* out, auto keep) {
+  const wchar_t* const start = out;
+  for (const auto unit : text) {
+    *out = static_cast<wchar_t>(unit);
+    out += keep(unit) ? 1 : 0;
   }
-};
-
-auto withoutUnit(std::wstring_view text, wchar_t removed) {
-  const auto stays = [removed](wchar_t unit) { return unit != removed; };
-  return Kept<decltype(stays)>{text, stays};
+  return static_cast<std::size_t>(out - start);
 }
 
-auto digitsOf(std::wstring_view text) {
-  const auto isDigit = [](wchar_t unit) { return unit >= L'0' && unit <= L'9'; };
-  return Kept<decltype(isDigit)>{text, isDigit};
+std::size_t copyWithout(wchar_t removed, auto text, wchar_t* out) {
+  return copyIf(text, out, [removed](auto unit) { return static_cast<wchar_t>(unit) != removed; });
 }
 
-Replaced<char16_t, char16_t> withoutColons(std::u16string_view text) { return {text, u":", {}}; }
+std::size_t copyDigits(std::wstring_view text, wchar_t* out) {
+  return copyIf(text, out, [](wchar_t unit) { return unit >= L'0' && unit <= L'9'; });
+}
 
 // Whether the units from `at` to `kept`, of which `chars` has more, and then those from `next` on are
 // `chars`.
@@ -84,19 +72,19 @@ wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, std::wstr
   }
 }
 
-// Takes the first unit out of the leftmost occurrence of `chars` until there is none, and gives what
-// is left. The units after a gap stay as they are, so what is found among them stays found.
-std::span<wchar_t> removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
+// Takes the first unit out of the leftmost occurrence of `chars` until there is none, and returns the
+// new size. The units after a gap stay as they are, so what is found among them stays found.
+std::size_t removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
   wchar_t* const start = text.data();
   wchar_t* kept = start;
   wchar_t* next = start;
   const std::wstring_view searched(start, text.size());
   quvard::PatternSearch<wchar_t>(chars).forEachOverlapping(searched, [&](std::size_t at) {
-    kept = copyUnits({next, start + at}, kept);
+    kept = moveUnits({next, start + at}, kept);
     next = start + at + 1;
     kept = removeAcrossGap(start, kept, next, chars);
   });
-  return {start, copyUnits({next, start + text.size()}, kept)};
+  return static_cast<std::size_t>(moveUnits({next, start + text.size()}, kept) - start);
 }
 
 // How far a text matches `chars` at a place: the greatest n for which the n units before that place
@@ -141,9 +129,9 @@ void findReaches(std::wstring_view chars, const Match* borders, Match* reaches, 
 // The same as removeFirstUnits for a long `chars`, in linear time. A removal leaves the tail after the
 // gap, whatever was before it, so the match at the gap alone decides where the next occurrence is: over
 // the gap, or further on. If it is further on, the match after the tail is the border of `chars`.
-std::span<wchar_t> removeFirstUnitsOfLong(std::span<wchar_t> text, std::wstring_view chars) {
+std::size_t removeFirstUnitsOfLong(std::span<wchar_t> text, std::wstring_view chars) {
   const std::size_t size = chars.size();
-  if (text.size() < size) return text;
+  if (text.size() < size) return text.size();
   const std::wstring_view tail = chars.substr(1);
 
   // One run of memory for all, in place for short texts.
@@ -186,20 +174,21 @@ std::span<wchar_t> removeFirstUnitsOfLong(std::span<wchar_t> text, std::wstring_
       // The units between the two gaps begin the tail now, and as many at its end are read again.
       const std::wstring_view again = tail.substr(size - reach);
       next -= again.size();
-      copyUnits(again, text.data() + next);
+      moveUnits(again, text.data() + next);
     }
     tailStart = unwritten = gap;
     tailEnd = kept = gap + tail.size();
     match = borders[size];
   }
   writeTail(kept);
-  return text.first(kept);
+  return kept;
 }
 
-std::span<wchar_t> removeChars(std::span<wchar_t> text, std::wstring_view chars) {
-  if (chars.empty()) return text;
+// Returns the new size.
+std::size_t removeChars(std::span<wchar_t> text, std::wstring_view chars) {
+  if (chars.empty()) return text.size();
   if (chars.size() == 1) {
-    return {text.data(), withoutUnit({text.data(), text.size()}, chars.front()).write(text.data())};
+    return copyWithout(chars.front(), text, text.data());
   }
   return chars.size() <= quvard::kShortPattern ? removeFirstUnits(text, chars)
                                                : removeFirstUnitsOfLong(text, chars);
@@ -208,27 +197,44 @@ std::span<wchar_t> removeChars(std::span<wchar_t> text, std::wstring_view chars)
 }  // namespace
 
 std::wstring RemoveChar(std::wstring s, std::wstring chars) {
-  s.resize(removeChars(s, chars).size());
+  s.resize(removeChars(s, chars));
   return s;
 }
 
 std::wstring RemoveColon(std::wstring s) {
-  overwrite(s, withoutUnit(s, L':'));
+  s.resize(copyWithout(L':', std::wstring_view(s), s.data()));
   return StrLRTrim(std::move(s));
 }
 
 std::wstring RemoveSemicolon(std::wstring s) {
-  overwrite(s, withoutUnit(s, L';'));
+  s.resize(copyWithout(L';', std::wstring_view(s), s.data()));
   return StrLRTrim(std::move(s));
 }
 
 std::wstring RemoveNonNumericChar(std::wstring s) {
-  overwrite(s, digitsOf(s));
+  s.resize(copyDigits(s, s.data()));
   return s;
 }
 
-BSTR VB_RemoveChar(BSTR s, BSTR chars) { return viaBuffer(removeChars, s, chars); }
+BSTR VB_RemoveChar(BSTR s, BSTR chars) {
+  TextBuffer text(wideText(s));
+  text.resize(removeChars(text, wideText(chars)));
+  return newHostString(text);
+}
 
-BSTR VB_RemoveNonNumericChar(BSTR s) { return viaBuffer(digitsOf, s); }
+BSTR VB_RemoveNonNumericChar(BSTR s) {
+  const std::wstring_view text = wideText(s);
+  TextBuffer digits;
+  digits.resize(text.size());
+  digits.resize(copyDigits(text, digits.data()));
+  return newHostString(digits);
+}
 
-BSTR VB_RemoveColon(BSTR s) { return s == nullptr ? nullptr : quvard::viaUnits(withoutColons, s); }
+BSTR VB_RemoveColon(BSTR s) {
+  if (s == nullptr) return nullptr;
+  const std::u16string_view text = quvard::codeUnits(s);
+  TextBuffer result;
+  result.resize(text.size());
+  result.resize(copyWithout(L':', text, result.data()));
+  return newHostString(result);
+}

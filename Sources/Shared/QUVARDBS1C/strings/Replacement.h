@@ -1,6 +1,7 @@
 #ifndef QUVARDBS1C_STRINGS_REPLACEMENT_H
 #define QUVARDBS1C_STRINGS_REPLACEMENT_H
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -9,69 +10,78 @@
 
 namespace quvard {
 
-// A text with every occurrence of a pattern replaced. The units of the text may be wider than those
-// of the pattern and the replacement.
-template <typename TextUnit, typename Unit>
-class Replaced {
+// Replaces every occurrence of a pattern in texts.
+template <typename Unit>
+class Replacer {
  public:
-  using Text = std::basic_string_view<TextUnit>;
   using View = std::basic_string_view<Unit>;
 
-  Replaced(Text text, View pattern, View replacement)
-      : text_(text),
-        pattern_(pattern == replacement ? View() : pattern),
-        replacement_(replacement),
-        search_(pattern_) {}
+  // Pattern and replacement outlive the replacer.
+  Replacer(View pattern, View replacement) : search_(pattern), replacement_(replacement) {}
 
-  bool mayGrow() const { return replacement_.size() > pattern_.size(); }
-
-  // The number of units of a result that may grow.
-  std::size_t size() const { return text_.size() + search_.count(text_) * growth(); }
-
-  // Occurrences are counted only where a buffer in place may be too small for the most there can be.
-  std::size_t room() const {
-    if (!mayGrow() || pattern_.empty()) return text_.size();
-    if (text_.size() <= kUnitsInPlace && growth() <= kUnitsInPlace) {
-      const std::size_t most = text_.size() + text_.size() / pattern_.size() * growth();
-      if (most <= kUnitsInPlace) return most;
-    }
-    return size();
+  // Appends the result for `text` to `output`.
+  template <typename TextUnit>
+  void append(std::basic_string_view<TextUnit> text, auto& output) const {
+    output.append(text.substr(appendUpToLastOccurrence(text, output)));
   }
 
-  // `out` may be where the text is, unless the result may grow.
-  wchar_t* write(wchar_t* out) const {
-    const wchar_t* const start = out;
-    const bool isOver = static_cast<const void*>(start) == text_.data();
-    std::size_t from = 0;
-    search_.forEach(text_, [&](std::size_t at) {
-      // Over the text, a whole block may be written once the result is a block behind what is read.
-      const std::size_t written = static_cast<std::size_t>(out - start);
-      const bool isFree = !isOver || from - written >= kBlockUnits;
-      out = isFree ? copyGap(from, at, out) : copyUnits(text_.substr(from, at - from), out);
-      for (const Unit unit : replacement_) *out++ = static_cast<wchar_t>(unit);
-      from = at + pattern_.size();
+  // The same, but only up to the last occurrence, and returns the position after it.
+  template <typename TextUnit>
+  std::size_t appendUpToLastOccurrence(std::basic_string_view<TextUnit> text, auto& output) const {
+    std::size_t next = 0;
+    search_.forEach(text, [&](std::size_t at) {
+      appendSlice(output, text, next, at - next);
+      output.append(replacement_);
+      next = at + search_.patternSize();
     });
-    return copyUnits(text_.substr(from), out);
+    return next;
   }
+
+  std::size_t patternSize() const { return search_.patternSize(); }
 
  private:
-  std::size_t growth() const { return replacement_.size() - pattern_.size(); }
+  PatternSearch<Unit> search_;
+  View replacement_;
+};
 
-  // Copies what is between two occurrences. Most gaps are short, and to copy a whole block is faster
-  // than to copy a number of units that varies. What is copied too much is written over later, or is
-  // beyond the end of the result. There is room for it: at least as much is left as of the text.
-  wchar_t* copyGap(std::size_t from, std::size_t to, wchar_t* out) const {
-    if (to - from > kBlockUnits || text_.size() - from < kBlockUnits) {
-      return copyUnits(text_.substr(from, to - from), out);
-    }
-    for (std::size_t i = 0; i < kBlockUnits; ++i) out[i] = static_cast<wchar_t>(text_[from + i]);
-    return out + (to - from);
+// An output that replaces in the text appended to it, piece by piece, and appends the result to
+// another output. So the text itself is never in memory as a whole.
+template <typename Unit>
+class ReplacingOutput {
+ public:
+  ReplacingOutput(const Replacer<Unit>& replacer, TextBuffer& output)
+      : replacer_(replacer), output_(output) {
+    // At least half of a full window is passed on, so that the time is linear.
+    window_.reserve(2 * replacer.patternSize());
   }
 
-  Text text_;
-  View pattern_;
-  View replacement_;
-  PatternSearch<Unit> search_;
+  template <typename TextUnit>
+  void append(std::basic_string_view<TextUnit> text) {
+    while (!text.empty()) {
+      if (window_.size() == window_.capacity())
+        passOn(std::max<std::size_t>(replacer_.patternSize(), 1) - 1);
+      const std::size_t count = std::min(text.size(), window_.capacity() - window_.size());
+      window_.append(text.substr(0, count));
+      text.remove_prefix(count);
+    }
+  }
+
+  void finish() { passOn(0); }
+
+ private:
+  // Passes on the window except for its last `held` code units, in which an occurrence may begin.
+  void passOn(std::size_t held) {
+    const std::wstring_view window = window_;
+    const std::size_t next = replacer_.appendUpToLastOccurrence(window, output_);
+    const std::size_t end = std::max(next, window.size() - std::min(held, window.size()));
+    output_.append(window.substr(next, end - next));
+    window_.erasePrefix(end);
+  }
+
+  static constexpr std::size_t kWindowInPlace = 256;
+  const Replacer<Unit>& replacer_;
+  TextBuffer& output_;
+  BasicTextBuffer<kWindowInPlace> window_;
 };
 
 }  // namespace quvard

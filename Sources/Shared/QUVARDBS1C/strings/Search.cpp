@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <bitset>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
 
@@ -8,7 +9,8 @@
 #include "host/HostBool.h"
 #include "strings/PatternSearch.h"
 
-using quvard::viaBuffer;
+using quvard::TextBuffer;
+using quvard::wideText;
 
 namespace {
 
@@ -35,20 +37,21 @@ class ManyUnits {
   explicit ManyUnits(std::span<wchar_t> units)
       : beyond_(std::partition(units.begin(), units.end(), isNarrow), units.end()) {
     for (const wchar_t unit : units.first(units.size() - beyond_.size())) {
-      narrow_.set(static_cast<std::size_t>(unit));
+      narrow_->set(static_cast<std::size_t>(unit));
     }
     std::sort(beyond_.begin(), beyond_.end());
   }
 
   bool contains(wchar_t unit) const {
-    return isNarrow(unit) ? narrow_.test(static_cast<std::size_t>(unit))
+    return isNarrow(unit) ? narrow_->test(static_cast<std::size_t>(unit))
                           : std::binary_search(beyond_.begin(), beyond_.end(), unit);
   }
 
  private:
   static bool isNarrow(wchar_t unit) { return static_cast<uint32_t>(unit) <= 0xFFFF; }
 
-  std::bitset<0x10000> narrow_;
+  // On the heap: 8 KiB are too much for the stack of some threads.
+  std::unique_ptr<std::bitset<0x10000>> narrow_ = std::make_unique<std::bitset<0x10000>>();
   std::span<wchar_t> beyond_;  // sorted
 };
 
@@ -82,8 +85,14 @@ int32_t cChrCount(std::wstring text, std::wstring pattern) {
   return countOccurrences(text.c_str(), pattern.c_str());
 }
 
-HostBool VB_CommonChar(BSTR text, BSTR chars) { return viaBuffer(haveCommonUnit, text, chars); }
+HostBool VB_CommonChar(BSTR text, BSTR chars) {
+  const TextBuffer wide(wideText(text));
+  TextBuffer wideChars(wideText(chars));
+  return haveCommonUnit(wide, wideChars);
+}
 
 int32_t ChrCount(BSTR text, BSTR pattern) {
-  return text == nullptr || pattern == nullptr ? 0 : viaBuffer(countOccurrences, text, pattern);
+  if (text == nullptr || pattern == nullptr) return 0;
+  const TextBuffer wide(wideText(text));
+  return countOccurrences(wide, wideText(pattern));
 }

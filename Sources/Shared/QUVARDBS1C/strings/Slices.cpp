@@ -1,11 +1,13 @@
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "host/Boundary.h"
 #include "strings/PatternSearch.h"
 #include "strings/WideForm.h"
 
-using quvard::viaBuffer;
+using quvard::TextBuffer;
+using quvard::wideText;
 
 namespace {
 
@@ -67,14 +69,24 @@ std::wstring cStrBetweenChrAndChr(std::wstring text, std::wstring opening, std::
   return text;
 }
 
-BSTR StrFromTo(BSTR text, int32_t from, int32_t to) { return viaBuffer(fromTo, text, from, to); }
+BSTR StrFromTo(BSTR text, int32_t from, int32_t to) {
+  return quvard::newHostString(fromTo(wideText(text), from, to));
+}
 
-BSTR StrBetween(BSTR text, int32_t from, int32_t to) { return viaBuffer(between, text, from, to); }
+BSTR StrBetween(BSTR text, int32_t from, int32_t to) {
+  return quvard::newHostString(between(wideText(text), from, to));
+}
 
 BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing) {
-  return viaBuffer(fromChrToChr, text, opening, closing);
+  const TextBuffer wide(wideText(text));
+  const TextBuffer wideOpening(wideText(opening));
+  return quvard::newHostString(fromChrToChr(wide, wideOpening, wideText(closing)));
 }
 
 BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing) {
-  return quvard::viaObject(cStrBetweenChrAndChr, text, opening, closing);
+  std::wstring wide = convertBSTRtoWstring(text);
+  std::wstring wideOpening = convertBSTRtoWstring(opening);
+  std::wstring wideClosing = convertBSTRtoWstring(closing);
+  return convertWstringToBSTR(
+      cStrBetweenChrAndChr(std::move(wide), std::move(wideOpening), std::move(wideClosing)));
 }

@@ -5,7 +5,7 @@
 #include "strings/WideForm.h"
 
 using quvard::cutTo;
-using quvard::viaBuffer;
+using quvard::wideText;
 
 namespace {
 
@@ -32,6 +32,6 @@ std::wstring StrRight(std::wstring s, int32_t n) {
   return s;
 }
 
-BSTR VB_StrLeft(BSTR s, int32_t n) { return viaBuffer(leftOf, s, n); }
+BSTR VB_StrLeft(BSTR s, int32_t n) { return quvard::newHostString(leftOf(wideText(s), n)); }
 
-BSTR VB_StrRight(BSTR s, int32_t n) { return viaBuffer(rightOf, s, n); }
+BSTR VB_StrRight(BSTR s, int32_t n) { return quvard::newHostString(rightOf(wideText(s), n)); }

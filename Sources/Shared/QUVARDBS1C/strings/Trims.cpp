@@ -8,7 +8,8 @@
 
 using quvard::cutTo;
 using quvard::kMatchedUnits;
-using quvard::viaBuffer;
+using quvard::newHostString;
+using quvard::wideText;
 
 namespace {
 
@@ -51,8 +52,8 @@ std::wstring StrLRTrim(std::wstring s) {
   return s;
 }
 
-BSTR VB_StrLTrim(BSTR s) { return viaBuffer(trimLeft, s); }
+BSTR VB_StrLTrim(BSTR s) { return newHostString(trimLeft(wideText(s))); }
 
-BSTR VB_StrRTrim(BSTR s) { return viaBuffer(trimRight, s); }
+BSTR VB_StrRTrim(BSTR s) { return newHostString(trimRight(wideText(s))); }
 
-BSTR VB_StrLRTrim(BSTR s) { return viaBuffer(trimBoth, s); }
+BSTR VB_StrLRTrim(BSTR s) { return newHostString(trimBoth(wideText(s))); }
