@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <barrier>
 #include <climits>
 #include <functional>
 #include <new>
@@ -161,6 +162,22 @@ TEST(ThreadBuffer, LongTextOfAnEndedThreadIsReleased) {
     runOnNewThread([&] { EXPECT_TRUE(library.call(3'000'000)); });
     EXPECT_EQ(liveAllocations, before) << "after " << i + 1 << " threads";
   }
+}
+
+TEST(ThreadBuffer, HundredsOfThreadsAtOnceHaveTheirOwn) {
+  constexpr int kThreads = 300;
+  const Library library = load();
+  std::barrier allHaveCalled(kThreads);
+  std::vector<std::thread> threads;
+  for (int i = 0; i < kThreads; ++i) {
+    threads.emplace_back([&] {
+      for (int round = 0; round < 3; ++round) {
+        EXPECT_TRUE(library.call(300));
+        allHaveCalled.arrive_and_wait();
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
 }
 
 TEST(ThreadBuffer, ForkDuringFirstCallsLeavesAWorkingChild) {

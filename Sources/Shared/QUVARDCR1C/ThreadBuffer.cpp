@@ -125,8 +125,9 @@ Block* appendBlock(Block* last) {
   Block* const added = new Block{};
   Block* next = nullptr;
   if (last->next.compare_exchange_strong(next, added)) return added;
-  delete added;  // another thread was first
-  return next;
+  // Another thread was first.
+  delete added;  // GCOVR_EXCL_LINE
+  return next;   // GCOVR_EXCL_LINE
 }
 
 Slot* claimSlot() {
