@@ -1,5 +1,15 @@
 # The compile options of every target of this project are here and nowhere else.
 
+# These change bits that the numerics promise, and clang has no macro by which numerics/StrictDoubles.h
+# could refuse them all. A later -fno-fast-math does not help: -Ofast still links start-up code that
+# flushes subnormals in the whole process.
+string(TOUPPER "${CMAKE_BUILD_TYPE}" type)
+get_directory_property(directoryOptions COMPILE_OPTIONS)
+if("${CMAKE_CXX_FLAGS} ${CMAKE_CXX_FLAGS_${type}} ${CMAKE_SHARED_LINKER_FLAGS} ${directoryOptions}" MATCHES
+   "-(Ofast|ffast-math|ffp-model=fast|ffinite-math-only|funsafe-math-optimizations|fassociative-math|freciprocal-math|fno-signed-zeros|fno-honor-nans|fno-honor-infinities|fapprox-func)")
+  message(FATAL_ERROR "The numerics promise IEEE doubles bit by bit: configure without ${CMAKE_MATCH_0}.")
+endif()
+
 add_library(QUVARDCompileOptions INTERFACE)
 target_compile_features(QUVARDCompileOptions INTERFACE cxx_std_20)
 target_compile_options(QUVARDCompileOptions INTERFACE

@@ -7,6 +7,7 @@
 #include "host/Boundary.h"
 #include "host/HostBool.h"
 #include "numerics/Constants.h"
+#include "numerics/StrictDoubles.h"
 #include "numerics/TruncLng.h"
 #include "numerics/WholeDistance.h"
 
