@@ -14,6 +14,7 @@ testing::AssertionResult checkHostRoutine(Random& random);
 testing::AssertionResult checkWideRoutine(Random& random);
 testing::AssertionResult checkFormat(Random& random);
 testing::AssertionResult checkNumeric(Random& random);
+testing::AssertionResult checkSequence(Random& random);
 
 // Both forms of SetFormat, on an array of 8.
 testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t digitsOverride);

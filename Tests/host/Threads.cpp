@@ -2,6 +2,7 @@
 // one. The thread sanitizer sees what they share.
 #include <thread>
 
+#include "fuzz/Checks.h"
 #include "support/HostRoutines.h"
 #include "support/Random.h"
 
@@ -56,4 +57,10 @@ TEST(Threads, EightAtOnce) {
     });
   }
   for (std::thread& thread : threads) thread.join();
+}
+
+// Results go from call to call and from thread to thread.
+TEST(Threads, InRandomSequences) {
+  Random random;
+  for (int i = 0; i < 2000; ++i) ASSERT_TRUE(checkSequence(random)) << "in sequence " << i;
 }

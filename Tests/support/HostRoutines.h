@@ -38,6 +38,7 @@ struct HostRoutine {
   std::function<Text(Handles)> call;       // its result as text, released
   std::function<void(Handles)> run;        // the same call, its result released at once
   std::function<Text(const Texts&)> wide;  // the same from wide text
+  std::function<BSTR(Handles)> make = {};  // its result itself, if that is a host string
   const Path* path = nullptr;
 
   // Whether a null string ends the call before any service.
@@ -86,9 +87,12 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), auto wide
     }
     (std::make_index_sequence<count>());
   };
-  return {name, count, [=](Handles s) { return textOf(call(host, s)); },
-          [=](Handles s) { discard(call(host, s)); },
-          [=](const Texts& t) { return textOf(call(wide, t)); }};
+  HostRoutine routine{name, count, [=](Handles s) { return textOf(call(host, s)); },
+                      [=](Handles s) { discard(call(host, s)); },
+                      [=](const Texts& t) { return textOf(call(wide, t)); }};
+  if constexpr (std::is_same_v<Result, BSTR>)
+    routine.make = [=](Handles s) { return call(host, s); };
+  return routine;
 }
 
 // The numbers that the routines are given beside their strings.
