@@ -13,6 +13,7 @@ namespace {
 std::atomic<long> allocationsLeft = -1;  // the next one to fail is at 0; below it none does
 std::atomic<long> liveAllocations = 0;
 std::atomic<long> allocations = 0;
+std::atomic<std::size_t> allocatedBytes = 0;
 
 }  // namespace
 
@@ -22,6 +23,7 @@ void* operator new(std::size_t size) {
   if (memory == nullptr) throw std::bad_alloc();
   ++liveAllocations;
   ++allocations;
+  allocatedBytes += size;
   return memory;
 }
 
@@ -163,6 +165,50 @@ TEST(Allocations, OneForEachLongTextAndItsResult) {
       }
     }
   }
+}
+
+// 4 * (|s| + 2 * |chars| + 3) bytes, none up to 780 of them and where `chars` is longer than `s`.
+TEST(Allocations, OfRemoveCharAreAsItsContractSays) {
+  for (const auto& [size, sizeOfChars, expected] :
+       {row(1000, 16, 0), row(158, 17, 0), row(159, 17, 784), row(64, 64, 0), row(1000, 18, 4156),
+        row(1000, 1000, 12012), row(1000, 1001, 0)}) {
+    Text s(static_cast<std::size_t>(size), L'a');
+    Text chars(static_cast<std::size_t>(sizeOfChars), L'a');
+    chars.back() = L'b';
+    const std::size_t before = allocatedBytes;
+    const Text result = RemoveChar(std::move(s), std::move(chars));
+    EXPECT_EQ(allocatedBytes - before, static_cast<std::size_t>(expected))
+        << size << ", " << sizeOfChars;
+  }
+}
+
+TEST(Allocations, NoneForATextThatIsMovedInAndDoesNotGrow) {
+  const auto expectAllocations = [](long expected, const char* call, auto routine) {
+    Text text(500, L'a');
+    const long before = allocations;
+    const Text result = routine(text);
+    EXPECT_EQ(allocations - before, expected) << call;
+  };
+#define MOVED(expected, call) expectAllocations(expected, #call, [](Text& s) { return call; })
+  MOVED(0, StrLeft(std::move(s), 400));
+  MOVED(0, StrRight(std::move(s), 400));
+  MOVED(0, StrConcat(std::move(s), L"", L"", L"", L"", L""));
+  MOVED(0, StrLRTrim(std::move(s)));
+  MOVED(0, StrLCase(std::move(s)));
+  MOVED(0, RemoveColon(std::move(s)));
+  MOVED(0, RemoveNonNumericChar(std::move(s)));
+  MOVED(0, cStrBetweenChrAndChr(std::move(s), L"a", L"a"));
+  MOVED(0, Replace(std::move(s), L"aa", L"b"));
+  MOVED(0, LowerFirst(std::move(s), L"", 0));
+  MOVED(0, UpperFirst(std::move(s)));
+  MOVED(0, SingPlural(std::move(s), L"", 1));
+  MOVED(0, QUVARDHTMLProcessor(std::move(s)));
+  MOVED(1, SpStrSp(std::move(s)));
+  MOVED(1, PStrP(std::move(s)));
+  MOVED(1, StrConcat(std::move(s), L"b", L"", L"", L"", L""));
+  MOVED(1, Replace(std::move(s), L"a", L"bb"));
+  MOVED(1, LocalAN(std::move(s), L"", L"US", 0, 0, 0));
+#undef MOVED
 }
 
 TEST(Allocations, WideBufferIsGivenBackAboveALimit) {

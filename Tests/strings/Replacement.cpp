@@ -37,6 +37,9 @@ TEST(Replacement, LongTextsInOnePass) {
   const Text rest(1000000, L'a'), pattern = Text(200000, L'a') + L"b";
   EXPECT_GIVES(Replace, L"x" + rest, pattern + rest, pattern, L"x"s);
   EXPECT_GIVES(VB_Replace, Text(140000, L'b'), Text(70000, L'a'), L"a", L"bb");
+  // An intermediate text of 4 million units, and a pattern that matches almost everywhere in it.
+  EXPECT_GIVES(VB_Replace2, Text(4000000, L'b'), Text(2000, L'a'), L"a", Text(2000, L'b'),
+               Text(99999, L'b') + L"c", L"");
 }
 
 TEST(Replacement, NullHandles) {

@@ -3,8 +3,9 @@
 ///
 /// Three kinds of routine are declared here, grouped by topic:
 ///
-/// - **Wide routines** take and give `std::wstring` by value. Each works on its own copy; an
-///   argument that the caller moves in is not copied. C++ only, with the C++ standard library that
+/// - **Wide routines** take and give `std::wstring` by value. A first text that the caller moves in
+///   becomes the result without a copy, unless the result is longer than it (SpStrSp(), PStrP(),
+///   StrConcat(), Replace()) or comes from LocalAN(). C++ only, with the C++ standard library that
 ///   this library was built with.
 /// - **Host routines** take and give host strings (`BSTR`) and scalars: those named `VB_...`, the
 ///   five `ChrCount`, `StrFromTo`, `StrBetween`, `StrFromChrToChr`, `StrBetweenChrAndChr`, and
@@ -18,12 +19,15 @@
 /// - An argument is never changed, kept or released. A null host string reads as the empty string.
 /// - A resulting host string is new on every call. The caller owns it and releases it with
 ///   `releaseBSTR` of `QUVARDCR1C`.
-/// - No call depends on an earlier one or waits for another thread, so any number may run at once. Only
-///   a buffer for each thread stays, as CW162W32() in QUVARDCR1C.h describes.
+/// - No call depends on an earlier one or waits for another thread, except inside the memory
+///   allocator, so any number may run at once. Only a buffer for each thread stays, as CW162W32() in
+///   QUVARDCR1C.h describes. Routines that take or return host strings are not async-signal-safe:
+///   they would overwrite that buffer while the interrupted call reads it.
 /// - Routines that deal in strings may throw `std::bad_alloc` and nothing else, and leak nothing
 ///   when they do. **Only a C++ caller can catch it; in any other host it ends the process.** Numeric
 ///   routines do not throw.
-/// - Texts and results are of at most 2,147,483,647 units.
+/// - A text that is passed in has at most 2,147,483,647 code units. A result may be longer:
+///   `DecimalFormat(2147483647)` has 2,147,483,649.
 /// - Text compares unit by unit: case counts and no locale takes part. A blank is the one unit
 ///   U+0020.
 ///
@@ -211,8 +215,9 @@ QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 /// the first unit out of the leftmost occurrence. With a @p chars of one unit, every such unit
 /// goes.
 ///
-/// The time is linear in @p s and @p chars, whatever they hold. With a @p chars above 16 units, the
-/// call needs memory for one number for each of their units.
+/// The time is linear in @p s and @p chars, whatever they hold. If @p chars has more than 16 code
+/// units and is not longer than @p s, the call needs 4 * (|s| + 2 * |chars| + 3) bytes of memory for
+/// itself: up to 780 bytes (texts of up to 64 code units need no more) on the stack, above on the heap.
 ///
 /// @param chars  what to look for; empty: @p s comes back unchanged
 /// @throws std::bad_alloc
@@ -363,7 +368,8 @@ QUVARDBS1C_API BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing);
 /// Patterns and what takes their place, everywhere in a text.
 ///
 /// Occurrences are handled from left to right and do not overlap. What a replacement puts in is not
-/// searched again. An empty pattern has no occurrences. Linear in text plus result.
+/// searched again. An empty pattern has no occurrences. The time is linear in the total length of
+/// the arguments and the result; for VB_Replace2(), also of its intermediate text.
 /// @{
 
 #ifdef __cplusplus
@@ -402,6 +408,9 @@ QUVARDBS1C_API BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement);
 
 /// @p text with every occurrence of @p pattern1 replaced, and then, in that result, every
 /// occurrence of @p pattern2. Null handles are empty strings. No argument changes.
+///
+/// The text after the first replacement takes time and memory too. It can have |text| *
+/// |replacement1| code units, also where the result is short.
 ///
 /// @return new host string
 /// @throws std::bad_alloc
@@ -662,9 +671,17 @@ QUVARDBS1C_API BSTR VB_OptimalFormat(double value, int32_t decimals, HostBool us
 /// What these and the other numerics compute themselves has the same bits on every compiler and
 /// processor: IEEE doubles in a fixed order of evaluation. (The sign and the payload of a NaN do
 /// not count.) What passes through `log`, `exp`, `pow`, `log10` or `atan` is as good as the
-/// platform's function of that name. All of it holds in the usual floating-point environment:
-/// rounding to nearest, and no flushing of subnormals to zero. Floating-point status flags, and
-/// `errno` where the platform's functions use it, are left as the operations set them.
+/// platform's function of that name. Floating-point status flags, and `errno` where the platform's
+/// functions use it, are left as the operations set them.
+///
+/// All of it holds in the default floating-point environment, for number patterns too:
+///
+/// - Rounding is to nearest.
+/// - Subnormals are not flushed to zero (on x86, FTZ and DAZ are off). A program or library that is
+///   linked with -Ofast or -ffast-math may turn flushing on for the whole process.
+/// - Traps are disabled. Where a host enables the trap of invalid operations, NaN as an argument
+///   raises SIGFPE in most routines, a quiet NaN too: comparing it is an invalid operation. Which
+///   routines trap depends on the compiler; Min(), IsLong(), Int05() and VB_OptimalFormat() may.
 ///
 /// Each contract of the numerics says how its figures of accuracy were found. *By search*: the
 /// worst error found by climbing from the worst of many random arguments, again and again until
@@ -778,8 +795,20 @@ QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 
 /// The natural logarithm of the gamma function.
 ///
-/// Method: Lanczos approximation with g = 7 and nine coefficients (C. Lanczos, 1964), whose terms
-/// are added from the last to the first, and then the constant. 0.0 exactly at 1.
+/// Method: Lanczos approximation with g = 7 and nine coefficients (C. Lanczos, 1964). 0.0 exactly at
+/// 1. Otherwise, in this order of evaluation:
+///
+/// | Step             | Value                                                          |
+/// |------------------|----------------------------------------------------------------|
+/// | start            | d = 7 + x, s = 0                                               |
+/// | for k = 8 to 1   | s = s + a[k] / d, then d = d - 1                               |
+/// | constant term    | s = s + a[0]                                                   |
+/// | u                | (log(s) + 0.9189385332046727) - (6.5 + x)                      |
+/// | ln gamma(x)      | log(6.5 + x) * (x - 0.5) + u                                   |
+///
+/// a[0] to a[8] are 0.9999999999995183, 676.5203681218835, -1259.139216722289, 771.3234287757674,
+/// -176.6150291498386, 12.50734324009056, -0.1385710331296526, 9.934937113930748e-06 and
+/// 1.659470187408462e-07.
 ///
 /// Accuracy: by search, relative error at most 1.2e-14 for x from 0.01 to 0.5, 8e-15 from 3 to 100
 /// and 1e-15 from 100 to 2.5e305. From 0.5 to 3, with zeros at 1 and 2, absolute error at most
@@ -787,7 +816,7 @@ QUVARDBS1C_API void SwapStr(BSTR* a, BSTR* b) QUVARDBS1C_NOEXCEPT;
 /// on, and 0.7 from 4.5e-16 to 1e-12.
 ///
 /// @param x  positive. From -6.5 up to 0 the formula runs as it is: +infinity at -6.5, -6 and -4
-///           and within 4.4e-16 of -2 and 0; else NaN from -1 (and the double before it) up to 0,
+///           and within 4.4e-16 of -2 and 0; else NaN from -1 (and the two doubles before it) up to 0,
 ///           from -3 up to -2, from -5 up to -4 and from about -6.19 up to -6; far off from -6.5 to
 ///           -6.19
 /// @return   -1.79769313486231e+308 for @p x below -6.5; +infinity from about 2.56e305; NaN for
@@ -1019,9 +1048,26 @@ QUVARDBS1C_API int32_t LinearInterpol(double x1, double x2, double y1, double y2
 /// reached if the discriminant b * b - 4 * a * (c - y) comes out below 0, which rounding decides
 /// for a value close to that of the vertex. Only then is @p x above @p xSecond.
 ///
-/// Method: c is worked out first, b from c, a from both. Points at 0, and points so near to 0 that
-/// a product vanishes, are passed over where another will do. NaN is equal to nothing here, and is
-/// computed with.
+/// Method, in this order of evaluation. Points i, j, k stand for (xi, yi), (xj, yj), (xk, yk); a
+/// value is usable if it is neither 0 nor NaN, so that points at 0, or so close to it that a product
+/// underflows, are passed over where other points will do.
+///
+/// | Value      | Formula                                                                  |
+/// |------------|--------------------------------------------------------------------------|
+/// | D(i, j, k) | (xi + xj) * xk - (xi + xk) * xj                                          |
+/// | P(i, j, k) | (xj * xj * yi - xi * xi * yj) * ((xk - xi) * xk)                         |
+/// | Q(i, j, k) | (xi * xi * yk - xk * xk * yi) * ((xj - xi) * xj)                         |
+/// | C(i, j, k) | (Q + P) * ((1 / D) / ((xj - xi) * (xk - xi)))                            |
+/// | B(i, j)    | ((xj * xj * yi + (xi * xi - xj * xj) * c) - xi * xi * yj) / ((xi * xj) * (xj - xi)) |
+/// | c          | C(1, 2, 3) if D(1, 2, 3) is usable, else C(2, 3, 1) if D(2, 3, 1) is, else C(3, 1, 2) |
+/// | b          | B(1, 2) if x1 * x2 is usable, else B(2, 3) if x2 * x3 is, else B(3, 1)   |
+/// | a          | ((y1 - x1 * b) - c) / (x1 * x1), or with point 2 if x1 * x1 is 0         |
+/// | forward    | c + (b + a * x) * x                                                      |
+/// | a is 0     | (y - c) / b                                                              |
+/// | r          | sqr((c - y) * (-4 * a) + b * b)                                          |
+/// | roots      | (-b - r) * 0.5 / a and (r - b) * 0.5 / a, in this order if a is above 0  |
+///
+/// NaN compares unequal and propagates.
 ///
 /// Accuracy: by search, with abscissae, values and the asked one from -1 to 1, abscissae at least
 /// 0.1 apart and 0.01 from 0, absolute error at most 2e-10 forward; with abs(a) at least 0.1 and a

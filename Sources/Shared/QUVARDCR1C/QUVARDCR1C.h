@@ -11,7 +11,9 @@
 /// 0x10FFFF becomes its surrogate pair; a unit above that (or negative) becomes U+FFFD.
 ///
 /// Every service may be called on any number of threads at once. Those that allocate may throw
-/// `std::bad_alloc` and nothing else; none of them leaks when it does.
+/// `std::bad_alloc` and nothing else; none of them leaks when it does. No service is
+/// async-signal-safe: a call from a signal handler may overwrite the buffer that the interrupted
+/// call is reading, or wait for ever inside the memory allocator.
 #ifndef QUVARDCR1C_H
 #define QUVARDCR1C_H
 
