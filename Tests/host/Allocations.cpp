@@ -198,7 +198,7 @@ TEST(Allocations, NoneForATextThatIsMovedInAndDoesNotGrow) {
   MOVED(0, RemoveColon(std::move(s)));
   MOVED(0, RemoveNonNumericChar(std::move(s)));
   MOVED(0, cStrBetweenChrAndChr(std::move(s), L"a", L"a"));
-  MOVED(0, Replace(std::move(s), L"aa", L"b"));
+  MOVED(1, Replace(std::move(s), L"aa", L"b"));
   MOVED(0, LowerFirst(std::move(s), L"", 0));
   MOVED(0, UpperFirst(std::move(s)));
   MOVED(0, SingPlural(std::move(s), L"", 1));
@@ -206,7 +206,7 @@ TEST(Allocations, NoneForATextThatIsMovedInAndDoesNotGrow) {
   MOVED(1, SpStrSp(std::move(s)));
   MOVED(1, PStrP(std::move(s)));
   MOVED(1, StrConcat(std::move(s), L"b", L"", L"", L"", L""));
-  MOVED(1, Replace(std::move(s), L"a", L"bb"));
+  MOVED(2, Replace(std::move(s), L"a", L"bb"));
   MOVED(1, LocalAN(std::move(s), L"", L"US", 0, 0, 0));
 #undef MOVED
 }

@@ -5,7 +5,7 @@
 ///
 /// - **Wide routines** take and give `std::wstring` by value. A first text that the caller moves in
 ///   becomes the result without a copy, unless the result is longer than it (SpStrSp(), PStrP(),
-///   StrConcat(), Replace()) or comes from LocalAN(). C++ only, with the C++ standard library that
+///   StrConcat()) or comes from Replace() or LocalAN(). C++ only, with the C++ standard library that
 ///   this library was built with.
 /// - **Host routines** take and give host strings (`BSTR`) and scalars: those named `VB_...`, the
 ///   five `ChrCount`, `StrFromTo`, `StrBetween`, `StrFromChrToChr`, `StrBetweenChrAndChr`, and
@@ -409,7 +409,7 @@ QUVARDBS1C_API BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement);
 /// @p text with every occurrence of @p pattern1 replaced, and then, in that result, every
 /// occurrence of @p pattern2. Null handles are empty strings. No argument changes.
 ///
-/// The text after the first replacement takes time and memory too. It can have |text| *
+/// The text after the first replacement takes time too, but no memory as a whole. It can have |text| *
 /// |replacement1| code units, also where the result is short.
 ///
 /// @return new host string
