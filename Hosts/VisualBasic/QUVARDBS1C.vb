@@ -1,420 +1,781 @@
-' The base library for Visual Basic programs: add this file to the project, and keep QUVARDBS1C.dll
-' and QUVARDCR1C.dll in the folder of the program.
+' The base library for Visual Basic programs on .NET. Generated from QUVARDBS1C.h by generate.py: do
+' not edit. Add this file to the project, and keep QUVARDBS1C.dll and QUVARDCR1C.dll in the folder of
+' the program. The page docs/from-a-macro.md explains how.
 '
-' Texts are Strings on both sides. A result is a copy, and the host string that it came in is
-' released at once: a caller has nothing to release. The null handle is the value Nothing; as an
+' Texts are Strings on both sides, and no caller releases anything. Nothing is the null handle: as an
 ' argument it is the empty text unless a comment says otherwise. Texts end at their first ChrW(0).
-' Lengths and positions count UTF-16 units, as Len and Mid do, and positions start at 1.
-'
-' Flags are Boolean. A number in their place does not compile under Option Strict On; otherwise it
-' turns into True or False first.
-'
-' Two names differ from the library's own: ModLng is Mod, an operator of the language, and SqrDbl is
-' sqr, which hides a function of older Visual Basic.
+' Lengths and positions count UTF-16 code units, as Len and Mid do, and positions start at 1.
 Option Strict On
 Option Explicit On
+Option Infer On
 Option Compare Binary
+Imports System
+Imports System.Globalization
 Imports System.Runtime.InteropServices
-Imports System.Runtime.InteropServices.UnmanagedType
 
-Public Module QUVARDBS1C
+Namespace Global.QUVARDBS1C
 
-    ' ---- Substrings, joins and trims ----
-
-    ' The first n units of s; all of s if n is negative or above its length.
-    Public Declare Function VB_StrLeft Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String, ByVal n As Integer
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' The last n units of s; all of s if n is negative or above its length.
-    Public Declare Function VB_StrRight Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String, ByVal n As Integer
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' The six texts joined, with nothing between them.
-    Public Declare Function VB_StrConcat Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal a As String, <MarshalAs(LPWStr)> ByVal b As String,
-        <MarshalAs(LPWStr)> ByVal c As String, <MarshalAs(LPWStr)> ByVal d As String,
-        <MarshalAs(LPWStr)> ByVal e As String, <MarshalAs(LPWStr)> ByVal f As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' s without its leading blanks.
-    Public Declare Function VB_StrLTrim Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' s without its trailing blanks.
-    Public Declare Function VB_StrRTrim Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' s without blanks at either end.
-    Public Declare Function VB_StrLRTrim Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' ---- Removal ----
-
-    ' s after a removal that goes on until chars occurs nowhere: each step takes the first unit out
-    ' of the leftmost occurrence. With chars of one unit, every such unit goes.
-    Public Declare Function VB_RemoveChar Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String, <MarshalAs(LPWStr)> ByVal chars As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' The digits 0 to 9 of s, in their order.
-    Public Declare Function VB_RemoveNonNumericChar Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' s without any colon; Nothing for Nothing.
-    Public Declare Function VB_RemoveColon Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal s As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' ---- Search and counting ----
-
-    ' Whether text and chars have a unit in common.
-    Public Declare Function VB_CommonChar Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal chars As String
-        ) As Boolean
-
-    ' The number of occurrences of pattern in text, which do not overlap; 0 if either is empty.
-    Public Declare Function ChrCount Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal pattern As String
-        ) As Integer
-
-    ' ---- Slices by position and delimiter ----
-
-    ' The units at positions from to to_, both included; empty unless 1 <= from <= to_ <= length.
-    Public Declare Function StrFromTo Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, ByVal from As Integer, ByVal to_ As Integer
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' The units strictly between the positions from and to_; empty unless 1 <= from < to_ <= length.
-    Public Declare Function StrBetween Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, ByVal from As Integer, ByVal to_ As Integer
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' The text from the first opening to the first closing, both included; empty if either is not
-    ' found or closing comes first. Delimiters are of one unit each.
-    Public Declare Function StrFromChrToChr Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal opening As String,
-        <MarshalAs(LPWStr)> ByVal closing As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' What is between the first opening and the first closing after it; empty if either is not
-    ' found. Delimiters are of one unit each.
-    Public Declare Function StrBetweenChrAndChr Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal opening As String,
-        <MarshalAs(LPWStr)> ByVal closing As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
-
-    ' ---- Replacement ----
-
-    ' It can write to its text, and a String never changes: so the texts are host strings here.
-    Private Declare Function Dll_VB_Replace Lib "QUVARDBS1C.dll" Alias "VB_Replace" (
-        ByVal text As IntPtr, ByVal pattern As IntPtr, ByVal replacement As IntPtr) As IntPtr
-
-    ' What a call of VB_Replace gives.
+    ''' <summary>What a call of VB_Replace did to the copy that the library was given.</summary>
     Public Enum ReplaceResult
-        NewString    ' a new host string; the text handed in is as it was
-        TextChanged  ' a new host string; in the text handed in, units are replaced as well
-        TextItself   ' no new host string but the text handed in: text or pattern is Nothing
+        ''' <summary>The result is a new text, and the copy is unchanged.</summary>
+        NewString
+        ''' <summary>The result is a new text, and the copy was changed as well.</summary>
+        TextChanged
+        ''' <summary>The result is the copy itself, because text or pattern is Nothing.</summary>
+        TextItself
     End Enum
 
-    ' text with every occurrence of pattern replaced; Nothing for Nothing. The caller's String is as
-    ' it was in every case; result tells what the library did to the copy that it was given.
-    Public Function VB_Replace(ByVal text As String, ByVal pattern As String,
-                               ByVal replacement As String,
-                               Optional ByRef result As ReplaceResult = ReplaceResult.NewString
-                               ) As String
-        Dim textHandle = HostString(text)
-        Dim patternHandle = HostString(pattern)
-        Dim replacementHandle = HostString(replacement)
-        Dim before = Marshal.PtrToStringUni(textHandle)
-        Dim handle = Dll_VB_Replace(textHandle, patternHandle, replacementHandle)
-        VB_Replace = Marshal.PtrToStringUni(handle)
-        If handle = textHandle Then
-            result = ReplaceResult.TextItself
-        Else
-            releaseBSTR(handle)
-            Dim isSame = Marshal.PtrToStringUni(textHandle) = before
-            result = If(isSame, ReplaceResult.NewString, ReplaceResult.TextChanged)
-        End If
-        releaseBSTR(textHandle)
-        releaseBSTR(patternHandle)
-        releaseBSTR(replacementHandle)
-    End Function
+    ''' <summary>The routines of the library.</summary>
+    Public Module Routines
+        Private Const Library As String = "QUVARDBS1C.dll"
 
-    ' text with every occurrence of pattern1 replaced, and then, in that result, of pattern2.
-    Public Declare Function VB_Replace2 Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal pattern1 As String,
-        <MarshalAs(LPWStr)> ByVal replacement1 As String,
-        <MarshalAs(LPWStr)> ByVal pattern2 As String,
-        <MarshalAs(LPWStr)> ByVal replacement2 As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The first n units of s.</summary>
+        ''' <param name="n">number of units; above the length of s, or negative: all of s</param>
+        ''' <returns>empty if n is 0 or s is empty</returns>
+        ''' <example><code>VB_StrLeft("Hello", 2)  ' "He"</code></example>
+        Public Function VB_StrLeft(s As String, n As Integer) As String
+            Return TakeText(Dll.VB_StrLeft(s, n))
+        End Function
 
-    ' ---- Phrases of an adjective and a noun ----
-    '
-    ' A language is "ES", "FR", "IT", "PT", "PL", "US", "DE", "JP", "CS" or "CN".
+        ''' <summary>The last n units of s.</summary>
+        ''' <param name="n">number of units; above the length of s, or negative: all of s</param>
+        ''' <returns>empty if n is 0 or s is empty</returns>
+        ''' <example><code>VB_StrRight("Hello", 2)  ' "lo"</code></example>
+        Public Function VB_StrRight(s As String, n As Integer) As String
+            Return TakeText(Dll.VB_StrRight(s, n))
+        End Function
 
-    ' VB_LocalAN2 with upperAdjective alone True.
-    Public Declare Function VB_LocalAN Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal adjective As String, <MarshalAs(LPWStr)> ByVal noun As String,
-        <MarshalAs(LPWStr)> ByVal language As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The six strings joined in argument order, with nothing between them.</summary>
+        ''' <example><code>VB_StrConcat("a", "b", Nothing, Nothing, Nothing, Nothing)  ' "ab"</code></example>
+        Public Function VB_StrConcat(a As String, b As String, c As String, d As String,
+            e As String, f As String) As String
+            Return TakeText(Dll.VB_StrConcat(a, b, c, d, e, f))
+        End Function
 
-    ' The phrase in the word order of the language; empty for any other language. upperAdjective
-    ' raises the adjective's first unit (US, DE), lowerResult lowers the phrase's first unit (US and
-    ' ES to PL), noBlank leaves the blank between the words out (not in US, DE).
-    Public Declare Function VB_LocalAN2 Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal adjective As String, <MarshalAs(LPWStr)> ByVal noun As String,
-        <MarshalAs(LPWStr)> ByVal language As String, ByVal upperAdjective As HostBool,
-        ByVal lowerResult As HostBool, ByVal noBlank As HostBool
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>s without its leading blanks.</summary>
+        ''' <example><code>VB_StrLTrim("  a b  ")  ' "a b  "</code></example>
+        Public Function VB_StrLTrim(s As String) As String
+            Return TakeText(Dll.VB_StrLTrim(s))
+        End Function
 
-    ' text with its first unit lower-cased; as it is in JP, and in DE unless forceDE is True.
-    Public Declare Function VB_LowerFirst Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String, <MarshalAs(LPWStr)> ByVal language As String,
-        ByVal forceDE As HostBool
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>s without its trailing blanks.</summary>
+        ''' <example><code>VB_StrRTrim("  a b  ")  ' "  a b"</code></example>
+        Public Function VB_StrRTrim(s As String) As String
+            Return TakeText(Dll.VB_StrRTrim(s))
+        End Function
 
-    ' text with its first unit upper-cased.
-    Public Declare Function VB_UpperFirst Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>s without blanks at either end.</summary>
+        ''' <example><code>VB_StrLRTrim("  a b  ")  ' "a b"</code></example>
+        Public Function VB_StrLRTrim(s As String) As String
+            Return TakeText(Dll.VB_StrLRTrim(s))
+        End Function
 
-    ' ---- Wrapping, inflection and markup tokens ----
+        ''' <summary>s after a removal that goes on until the whole of chars occurs nowhere: each
+        ''' step takes the first unit out of the leftmost occurrence.</summary>
+        ''' <param name="chars">what to look for; empty: s comes back unchanged</param>
+        ''' <remarks>With a chars of one unit, every such unit goes. The time is linear in s and
+        ''' chars, whatever they hold. With a chars above 16 units, the call needs memory for one
+        ''' number for each of their units.</remarks>
+        ''' <example><code>VB_RemoveChar("a-b-c", "-")  ' "abc"</code></example>
+        Public Function VB_RemoveChar(s As String, chars As String) As String
+            Return TakeText(Dll.VB_RemoveChar(s, chars))
+        End Function
 
-    ' A blank, text, a blank.
-    Public Declare Function VB_SpStrSp Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The digits 0 to 9 of s, in their order.</summary>
+        ''' <example><code>VB_RemoveNonNumericChar("-1.5")  ' "15"</code></example>
+        Public Function VB_RemoveNonNumericChar(s As String) As String
+            Return TakeText(Dll.VB_RemoveNonNumericChar(s))
+        End Function
 
-    ' text in parentheses.
-    Public Declare Function VB_PStrP Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>s without any colon.</summary>
+        ''' <returns>Nothing for Nothing</returns>
+        ''' <remarks>Unlike RemoveColon() it leaves blanks at the ends in place.</remarks>
+        ''' <example><code>VB_RemoveColon(" a:b ")  ' " ab "</code></example>
+        Public Function VB_RemoveColon(s As String) As String
+            Return TakeText(Dll.VB_RemoveColon(s))
+        End Function
 
-    ' text in square brackets.
-    Public Declare Function VB_BStrB Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>Whether text and chars have a unit in common.</summary>
+        ''' <returns>True or False</returns>
+        ''' <remarks>The time is linear in text and chars, but for units above 0xFFFF in a chars
+        ''' above 64 units: if there are n of these, they are sorted in n log n steps, and each such
+        ''' unit of text takes log n.</remarks>
+        ''' <example><code>VB_CommonChar("abc", "xyzb")  ' True</code></example>
+        Public Function VB_CommonChar(text As String, chars As String) As Boolean
+            Return Dll.VB_CommonChar(text, chars) <> 0
+        End Function
 
-    ' singular if count is less than 2, else plural.
-    Public Declare Function VB_SingPlural Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal singular As String, <MarshalAs(LPWStr)> ByVal plural As String,
-        ByVal count As Integer
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The number of occurrences of pattern in text, from left to right and without
+        ''' overlap.</summary>
+        ''' <returns>0 if either is empty or Nothing</returns>
+        ''' <remarks>Both end at their first zero unit.</remarks>
+        ''' <example><code>ChrCount("a,b,c", ",")  ' 2</code></example>
+        <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+        Public Function ChrCount(text As String, pattern As String) As Integer
+        End Function
 
-    ' text with <BR> turned into a line feed, <QM> into a double quotation mark, <CM> into a comma.
-    Public Declare Function VB_QUVARDHTMLProcessor Lib "QUVARDBS1C.dll" (
-        <MarshalAs(LPWStr)> ByVal text As String
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The units at positions from to to, both included.</summary>
+        ''' <param name="from">1 or more</param>
+        ''' <param name="to_">not beyond the end of text</param>
+        ''' <returns>empty for any other positions, and if to is before from</returns>
+        ''' <example><code>StrFromTo("abcdef", 2, 5)  ' "bcde"</code></example>
+        Public Function StrFromTo(text As String, from As Integer, to_ As Integer) As String
+            Return TakeText(Dll.StrFromTo(text, from, to_))
+        End Function
 
-    ' ---- Number patterns ----
+        ''' <summary>The units strictly between positions from and to.</summary>
+        ''' <param name="from">1 or more</param>
+        ''' <param name="to_">not beyond the end of text</param>
+        ''' <returns>empty for any other positions, and if to is not after from</returns>
+        ''' <example><code>StrBetween("abcdef", 2, 5)  ' "cd"</code></example>
+        Public Function StrBetween(text As String, from As Integer, to_ As Integer) As String
+            Return TakeText(Dll.StrBetween(text, from, to_))
+        End Function
 
-    ' The pattern with a number of decimals.
-    Public Declare Function Cpp_DecimalFormat Lib "QUVARDBS1C.dll" (
-        ByVal decimals As Integer
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The text from the first opening to the first closing, both included.</summary>
+        ''' <returns>empty if either is not found or closing comes first</returns>
+        ''' <remarks>Both are searched from the start of the text. Of a closing of several units,
+        ''' which needs an empty opening, the first unit is included; an empty one counts as the
+        ''' first unit of the text.</remarks>
+        ''' <example><code>StrFromChrToChr("a(b)c", "(", ")")  ' "(b)"</code></example>
+        Public Function StrFromChrToChr(text As String, opening As String,
+            closing As String) As String
+            Return TakeText(Dll.StrFromChrToChr(text, opening, closing))
+        End Function
 
-    Private Declare Sub Dll_VB_SetFormat Lib "QUVARDBS1C.dll" Alias "VB_SetFormat" (
-        ByRef formats As IntPtr, ByVal count As Integer, ByVal digits As Integer,
-        ByVal digitsOverride As Integer)
+        ''' <summary>What is between the first opening and the first closing after it, both left
+        ''' out.</summary>
+        ''' <returns>empty if either is not found, or closing is empty</returns>
+        ''' <remarks>The slice starts one unit after the start of opening, also if that is empty,
+        ''' and closing is searched from there.</remarks>
+        ''' <example><code>StrBetweenChrAndChr("a/b/c", "/", "/")  ' "b"</code></example>
+        Public Function StrBetweenChrAndChr(text As String, opening As String,
+            closing As String) As String
+            Return TakeText(Dll.StrBetweenChrAndChr(text, opening, closing))
+        End Function
 
-    ' Sets the first count elements to the pattern of digits digits, the one before the point
-    ' included. A digitsOverride other than -1 counts in the place of digits.
-    Public Sub VB_SetFormat(ByVal formats As String(), ByVal count As Integer,
-                            ByVal digits As Integer, ByVal digitsOverride As Integer)
-        If count < 1 Then Return
-        If count > formats.Length Then Throw New ArgumentOutOfRangeException(NameOf(count))
-        Dim elements(count - 1) As IntPtr
-        Dll_VB_SetFormat(elements(0), count, digits, digitsOverride)
-        For i = 0 To count - 1
-            formats(i) = TakeText(elements(i))
-        Next
-    End Sub
+        ''' <summary>text with every occurrence of pattern1 replaced, and then, in that result,
+        ''' every occurrence of pattern2.</summary>
+        ''' <remarks>Null handles are empty strings. No argument changes.</remarks>
+        ''' <example><code>VB_Replace2("ab", "a", "b", "b", "c")  ' "cc"</code></example>
+        Public Function VB_Replace2(text As String, pattern1 As String, replacement1 As String,
+            pattern2 As String, replacement2 As String) As String
+            Return TakeText(Dll.VB_Replace2(text, pattern1, replacement1, pattern2, replacement2))
+        End Function
 
-    ' The pattern that shows the decimals a value has, up to 19.
-    Public Declare Function VB_OutputFormat Lib "QUVARDBS1C.dll" (
-        ByVal value As Double
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>Host form of VB_LocalAN2() with upperAdjective True, lowerResult False, noBlank
+        ''' False.</summary>
+        ''' <example><code>VB_LocalAN("linear", "Model", "ES")  ' "Model linear"</code></example>
+        Public Function VB_LocalAN(adjective As String, noun As String,
+            language As String) As String
+            Return TakeText(Dll.VB_LocalAN(adjective, noun, language))
+        End Function
 
-    ' The pattern with a number of decimals; if useExponent is True, in scientific notation where
-    ' the value is small for these decimals, or from 100000. keepDecimals keeps the decimals there.
-    Public Declare Function VB_OptimalFormat Lib "QUVARDBS1C.dll" (
-        ByVal value As Double, ByVal decimals As Integer, ByVal useExponent As HostBool,
-        ByVal keepDecimals As HostBool
-        ) As <MarshalAs(CustomMarshaler, MarshalTypeRef:=GetType(HostText))> String
+        ''' <summary>The phrase of an adjective and a noun in the word order of a
+        ''' language.</summary>
+        ''' <param name="upperAdjective">raises the adjective's first unit, in US and DE
+        ''' only</param>
+        ''' <param name="lowerResult">lowers the first unit of the finished phrase, in US and the
+        ''' noun-first languages only</param>
+        ''' <param name="noBlank">makes the separator empty; otherwise it is one blank</param>
+        ''' <example><code>VB_LocalAN2("linear", "Model", "JP", False, False, True)  ' "linearModel"</code></example>
+        Public Function VB_LocalAN2(adjective As String, noun As String, language As String,
+            Optional upperAdjective As Boolean = True, Optional lowerResult As Boolean = False,
+            Optional noBlank As Boolean = False) As String
+            Return TakeText(Dll.VB_LocalAN2(adjective, noun, language, CInt(upperAdjective), CInt(
+                lowerResult), CInt(noBlank)))
+        End Function
 
-    ' ---- Elementary functions ----
+        ''' <summary>text with its first unit lower-cased, as StrLCase() does it.</summary>
+        ''' <remarks>"JP" leaves the text as it is, and so does "DE" unless forceDE is True. Every
+        ''' other code lowers, an unknown or empty one too.</remarks>
+        ''' <example><code>VB_LowerFirst("Model", "DE", False)  ' "Model"</code></example>
+        Public Function VB_LowerFirst(text As String, language As String,
+            Optional forceDE As Boolean = False) As String
+            Return TakeText(Dll.VB_LowerFirst(text, language, CInt(forceDE)))
+        End Function
 
-    ' 3.14159265358979.
-    Public Declare Function Pi Lib "QUVARDBS1C.dll" () As Double
-    ' The square root; -1.79769313486231E+308 below 0.
-    Public Declare Function SqrDbl Lib "QUVARDBS1C.dll" Alias "sqr" (ByVal x As Double) As Double
-    ' The decimal logarithm.
-    Public Declare Function Log10 Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-    ' base to the power of exponent.
-    Public Declare Function spow Lib "QUVARDBS1C.dll" (
-        ByVal base As Double, ByVal exponent As Double) As Double
-    ' exp(x) - 1; 1.79769313486231E+308 above 709.
-    Public Declare Function expm1x Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-    ' The arcsine in radians of x from -1 to 1; beyond, a number close to 0.
-    Public Declare Function ASin Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-    ' The lower one of two numbers; b if one is NaN.
-    Public Declare Function Min Lib "QUVARDBS1C.dll" (
-        ByVal a As Double, ByVal b As Double) As Double
-    ' The higher one of two numbers; b if one is NaN.
-    Public Declare Function Max Lib "QUVARDBS1C.dll" (
-        ByVal a As Double, ByVal b As Double) As Double
-    ' The sign of x as a number: 1, -1 or 0; NaN for an infinity.
-    Public Declare Function FSgn Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-    ' The magnitude of a with the sign of b.
-    Public Declare Function FSign Lib "QUVARDBS1C.dll" (
-        ByVal a As Double, ByVal b As Double) As Double
-    ' ln(exp(a) + exp(b)), also where the exponentials leave the range of doubles.
-    Public Declare Function LogExpAPlusExpB Lib "QUVARDBS1C.dll" (
-        ByVal a As Double, ByVal b As Double) As Double
+        ''' <summary>text with its first unit upper-cased under the locale of the process.</summary>
+        ''' <example><code>VB_UpperFirst("linear")  ' "Linear"</code></example>
+        Public Function VB_UpperFirst(text As String) As String
+            Return TakeText(Dll.VB_UpperFirst(text))
+        End Function
 
-    ' ---- Exchanges ----
+        ''' <summary>A blank, text, a blank.</summary>
+        ''' <example><code>VB_SpStrSp("and")  ' " and "</code></example>
+        Public Function VB_SpStrSp(text As String) As String
+            Return TakeText(Dll.VB_SpStrSp(text))
+        End Function
 
-    ' Exchanges two integers.
-    Public Declare Sub SwapLng Lib "QUVARDBS1C.dll" (ByRef a As Integer, ByRef b As Integer)
-    ' Exchanges two doubles.
-    Public Declare Sub SwapDbl Lib "QUVARDBS1C.dll" (ByRef a As Double, ByRef b As Double)
-    ' Exchanges two handles, which HostString makes.
-    Public Declare Sub SwapStr Lib "QUVARDBS1C.dll" (ByRef a As IntPtr, ByRef b As IntPtr)
+        ''' <summary>text in parentheses.</summary>
+        ''' <example><code>VB_PStrP("units")  ' "(units)"</code></example>
+        Public Function VB_PStrP(text As String) As String
+            Return TakeText(Dll.VB_PStrP(text))
+        End Function
 
-    ' ---- Gamma function and combinatorics ----
+        ''' <summary>text in square brackets.</summary>
+        ''' <example><code>VB_BStrB("1")  ' "[1]"</code></example>
+        Public Function VB_BStrB(text As String) As String
+            Return TakeText(Dll.VB_BStrB(text))
+        End Function
 
-    ' The natural logarithm of the gamma function, for x above 0.
-    Public Declare Function GammaLn Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-    ' n factorial; 1 below 2, infinity above 170.
-    Public Declare Function Fact Lib "QUVARDBS1C.dll" (ByVal n As Integer) As Double
-    ' The number of ways to choose k of n; 0 for k above n.
-    Public Declare Function Cnk Lib "QUVARDBS1C.dll" (
-        ByVal n As Double, ByVal k As Double) As Double
-    ' The sum of Cnk(n, k) for the whole k from from to to_.
-    Public Declare Function SumCnk Lib "QUVARDBS1C.dll" (
-        ByVal n As Double, ByVal from As Double, ByVal to_ As Double) As Double
+        ''' <summary>A copy of singular if count is less than 2, else of plural.</summary>
+        ''' <remarks>The other one is not read.</remarks>
+        ''' <example><code>VB_SingPlural("case", Nothing, 0)  ' "case"</code></example>
+        Public Function VB_SingPlural(singular As String, plural As String,
+            count As Integer) As String
+            Return TakeText(Dll.VB_SingPlural(singular, plural, count))
+        End Function
 
-    ' ---- Whole numbers, remainders and divisors ----
+        ''' <summary>text with its markup tokens turned into the characters that they mean:
+        ''' &lt;BR&gt; into a line feed, &lt;QM&gt; into a double quotation mark, &lt;CM&gt; into a
+        ''' comma.</summary>
+        ''' <remarks>Case counts.</remarks>
+        ''' <example><code>VB_QUVARDHTMLProcessor("&lt;QM&gt;a&lt;QM&gt;")  ' """a"""</code></example>
+        Public Function VB_QUVARDHTMLProcessor(text As String) As String
+            Return TakeText(Dll.VB_QUVARDHTMLProcessor(text))
+        End Function
 
-    ' The floored remainder of a by b, which has the sign of b; a if b is 0.
-    Public Declare Function ModLng Lib "QUVARDBS1C.dll" Alias "Mod" (
-        ByVal a As Integer, ByVal b As Integer) As Integer
-    ' The floored remainder of a by b; NaN if b is 0.
-    Public Declare Function ModDbl Lib "QUVARDBS1C.dll" (
-        ByVal a As Double, ByVal b As Double) As Double
-    ' The largest common divisor.
-    Public Declare Function LCD Lib "QUVARDBS1C.dll" (
-        ByVal a As Integer, ByVal b As Integer) As Integer
-    ' The largest common divisor of two decimal numbers, for instance 0.25 of 0.5 and 0.75.
-    Public Declare Function LCDDbl Lib "QUVARDBS1C.dll" (
-        ByVal a As Double, ByVal b As Double) As Double
-    ' Whether x is a whole number within 1E-12.
-    Public Declare Function IsLong Lib "QUVARDBS1C.dll" (ByVal x As Double) As Boolean
-    ' Whether x is a whole number within tol.
-    Public Declare Function IsLongP Lib "QUVARDBS1C.dll" (
-        ByVal x As Double, ByVal tol As Double) As Boolean
-    ' Whether x is an even number.
-    Public Declare Function IsEven Lib "QUVARDBS1C.dll" (ByVal x As Double) As Boolean
-    ' Whether n is even.
-    Public Declare Function IsEvenLng Lib "QUVARDBS1C.dll" (ByVal n As Integer) As Boolean
+        ''' <summary>The pattern with a number of decimals.</summary>
+        ''' <param name="decimals">0 or below: the pattern "0"; there is no upper limit but
+        ''' memory</param>
+        ''' <example><code>Cpp_DecimalFormat(2)  ' "0.00"</code></example>
+        Public Function Cpp_DecimalFormat(decimals As Integer) As String
+            Return TakeText(Dll.Cpp_DecimalFormat(decimals))
+        End Function
 
-    ' ---- Rounding to whole numbers and halves (half True) ----
+        ''' <summary>The pattern that shows the decimals a value has, up to 19: "0" for a value
+        ''' within 1e-12 of a whole number (infinities and NaN count as whole), otherwise "0." and
+        ''' 19 times "#".</summary>
+        ''' <remarks>If the value times 1e19 is not whole by the same test, "E-#" follows.</remarks>
+        ''' <example><code>VB_OutputFormat(0.5)  ' "0.###################"</code></example>
+        Public Function VB_OutputFormat(value As Double) As String
+            Return TakeText(Dll.VB_OutputFormat(value))
+        End Function
 
-    ' v moved away from zero.
-    Public Declare Function Int05 Lib "QUVARDBS1C.dll" (
-        ByVal v As Double, ByVal half As HostBool) As Double
-    ' v moved to the closest one.
-    Public Declare Function Int05c Lib "QUVARDBS1C.dll" (
-        ByVal v As Double, ByVal half As HostBool) As Double
-    ' v moved down if lower is True, otherwise up.
-    Public Declare Function Int05LU Lib "QUVARDBS1C.dll" (
-        ByVal v As Double, ByVal half As HostBool, ByVal lower As HostBool) As Double
+        ''' <summary>The pattern with a chosen number of decimals, in scientific notation where that
+        ''' is asked for and the value is small for these decimals, or large.</summary>
+        ''' <param name="value">the value that is to be printed</param>
+        ''' <param name="decimals">decimals of the pattern; also the limit for small values</param>
+        ''' <param name="useExponent">set: there may be an exponent part</param>
+        ''' <param name="keepDecimals">matters only with an exponent part. Set: the mantissa stays
+        ''' as told. Not set: it becomes "0" if pow(10, -e) times the value is whole</param>
+        ''' <remarks>A number x is whole here if it is less than 1e-12 away from x truncated toward
+        ''' zero, and that fits 32 bits; an infinity and NaN are not. The mantissa is "0" for a
+        ''' whole value, otherwise Cpp_DecimalFormat(decimals). With e the decimal logarithm of the
+        ''' magnitude, truncated toward zero, the exponent part is "E-0" if e is below -decimals
+        ''' ("E-00" from -10 down), "E+0" if e is 5 or more ("E+00" from 10 up), and empty in
+        ''' between. There is none for a magnitude of 1e-12 or less, for an infinity or for
+        ''' NaN.</remarks>
+        ''' <example><code>VB_OptimalFormat(2.5, 3, False, False)  ' "0.000"</code></example>
+        Public Function VB_OptimalFormat(value As Double, decimals As Integer,
+            useExponent As Boolean, keepDecimals As Boolean) As String
+            Return TakeText(Dll.VB_OptimalFormat(value, decimals, CInt(useExponent), CInt(
+                keepDecimals)))
+        End Function
 
-    ' ---- Interpolation ----
-    '
-    ' With forward True, y is set to the value at x; otherwise x to where the value is y. The result
-    ' is 0, or -1 where the points do not allow it.
+        ''' <summary>The constant 3.14159265358979, which is 7 units in the last place below the
+        ''' double closest to pi.</summary>
+        ''' <remarks>Twice ASin(1) equals it.</remarks>
+        ''' <example><code>Pi()  ' 3.14159265358979</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function Pi() As Double
+        End Function
 
-    ' The straight line through (x1, y1) and (x2, y2). With x1 equal to x2 it gives -1, x1 as x and
-    ' the mean of y1 and y2 as y.
-    Public Declare Function LinearInterpol Lib "QUVARDBS1C.dll" (
-        ByVal x1 As Double, ByVal x2 As Double, ByVal y1 As Double, ByVal y2 As Double,
-        ByRef x As Double, ByRef y As Double, ByVal forward As HostBool) As Integer
+        ''' <summary>The square root (not the square) of x, correctly rounded.</summary>
+        ''' <returns>-1.79769313486231e+308 if x is below 0; -0.0 for -0.0</returns>
+        ''' <example><code>SqrDbl(4)  ' 2</code></example>
+        <DllImport(Library, EntryPoint:="sqr", ExactSpelling:=True)>
+        Public Function SqrDbl(x As Double) As Double
+        End Function
 
-    ' The parabola through three points. Backward, x is the lower root and xSecond the upper one; x
-    ' is above xSecond exactly if the parabola does not reach y.
-    Public Declare Function QuadraticInterpol Lib "QUVARDBS1C.dll" (
-        ByVal x1 As Double, ByVal x2 As Double, ByVal x3 As Double,
-        ByVal y1 As Double, ByVal y2 As Double, ByVal y3 As Double,
-        ByRef x As Double, ByRef xSecond As Double, ByRef y As Double,
-        ByVal forward As HostBool) As Integer
+        ''' <summary>The decimal logarithm of x, as the platform's log10 gives it.</summary>
+        ''' <example><code>Log10(1000)  ' 3</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function Log10(x As Double) As Double
+        End Function
 
-    ' ---- Host strings ----
+        ''' <summary>base to the power of exponent, as the platform's pow gives it.</summary>
+        ''' <example><code>spow(2, 10)  ' 1024</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function spow(base As Double, exponent As Double) As Double
+        End Function
 
-    Private Declare Function SysAllocString16 Lib "QUVARDCR1C.dll" (
-        <MarshalAs(LPWStr)> ByVal units As String) As IntPtr
+        ''' <summary>exp(x) - 1.</summary>
+        ''' <returns>1.79769313486231e+308 for x above 709</returns>
+        ''' <example><code>expm1x(1e-6)  ' 1.0000004999999999e-06</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function expm1x(x As Double) As Double
+        End Function
 
-    Private Declare Sub releaseBSTR Lib "QUVARDCR1C.dll" (ByVal handle As IntPtr)
+        ''' <summary>The arcsine of x in radians, as atan(x / SqrDbl((1 - x) * (x + 1))).</summary>
+        ''' <param name="x">from -1 to 1; beyond, SqrDbl() refuses its argument, and the result is
+        ''' that of atan(x / -1.79769313486231e+308): its sign is opposite to that of x, it is at
+        ''' most 0.006 in magnitude up to 1e306 and half of pi at infinity, and nothing tells it
+        ''' from an arcsine</param>
+        ''' <returns>at 1 and -1 the constants 1.570796326794895 and -1.570796326794895; 0.0 for
+        ''' both zeros</returns>
+        ''' <example><code>ASin(1)  ' 1.570796326794895</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function ASin(x As Double) As Double
+        End Function
 
-    ' A new host string with the text, which the caller owns; the null handle for Nothing.
-    Public Function HostString(ByVal text As String) As IntPtr
-        Return If(text Is Nothing, IntPtr.Zero, SysAllocString16(text))
-    End Function
+        ''' <summary>a if it is below b, otherwise b: of equal arguments, or with a NaN,
+        ''' b.</summary>
+        ''' <example><code>Min(2, 1)  ' 1</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function Min(a As Double, b As Double) As Double
+        End Function
 
-    ' The text of a host string, which is released; Nothing for the null handle.
-    Public Function TakeText(ByVal handle As IntPtr) As String
-        Try
-            Return Marshal.PtrToStringUni(handle)
-        Finally
-            releaseBSTR(handle)
-        End Try
-    End Function
+        ''' <summary>a if it is above b, otherwise b: of equal arguments, or with a NaN,
+        ''' b.</summary>
+        ''' <example><code>Max(2, 1)  ' 2</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function Max(a As Double, b As Double) As Double
+        End Function
 
-    ' A flag as the library takes it: True is -1. A Boolean by itself would arrive as 1.
-    Public Structure HostBool
-        Private ReadOnly bits As Integer
-        Private Sub New(ByVal bits As Integer)
-            Me.bits = bits
+        ''' <summary>The sign of x as a number: 1, -1, or 0.0 for both zeros.</summary>
+        ''' <returns>NaN for an infinity or NaN</returns>
+        ''' <example><code>FSgn(-0.25)  ' -1</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function FSgn(x As Double) As Double
+        End Function
+
+        ''' <summary>The magnitude of a with the sign of b, where -0.0 and NaN count as not
+        ''' negative.</summary>
+        ''' <example><code>FSign(3, -1)  ' -3</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function FSign(a As Double, b As Double) As Double
+        End Function
+
+        ''' <summary>ln(exp(a) + exp(b)), also where the exponentials leave the range of
+        ''' doubles.</summary>
+        ''' <returns>NaN for two infinities of the same sign</returns>
+        ''' <example><code>LogExpAPlusExpB(1000, 1000)  ' 1000.6931471805599</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function LogExpAPlusExpB(a As Double, b As Double) As Double
+        End Function
+
+        ''' <summary>Exchanges two integers.</summary>
+        ''' <example><code>i = 1 : j = 2 : SwapLng(i, j)  ' i = 2</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Sub SwapLng(ByRef a As Integer, ByRef b As Integer)
         End Sub
-        Public Shared Widening Operator CType(ByVal flag As Boolean) As HostBool
-            Return New HostBool(If(flag, -1, 0))
-        End Operator
-    End Structure
 
-    ' Turns the host string that results into a String, and releases it.
-    Public NotInheritable Class HostText
-        Implements ICustomMarshaler
-        Private Shared ReadOnly Instance As New HostText
-
-        Public Shared Function GetInstance(ByVal cookie As String) As ICustomMarshaler
-            Return Instance
-        End Function
-        Public Function MarshalNativeToManaged(ByVal handle As IntPtr) As Object _
-            Implements ICustomMarshaler.MarshalNativeToManaged
-            Return Marshal.PtrToStringUni(handle)
-        End Function
-        Public Sub CleanUpNativeData(ByVal handle As IntPtr) _
-            Implements ICustomMarshaler.CleanUpNativeData
-            releaseBSTR(handle)
+        ''' <summary>Exchanges two doubles, bits as they are.</summary>
+        ''' <example><code>x = 1 : y = 2 : SwapDbl(x, y)  ' x = 2</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Sub SwapDbl(ByRef a As Double, ByRef b As Double)
         End Sub
-        Public Function GetNativeDataSize() As Integer Implements ICustomMarshaler.GetNativeDataSize
-            Return -1
+
+        ''' <summary>The natural logarithm of the gamma function.</summary>
+        ''' <param name="x">positive. From -6.5 up to 0 the formula runs as it is: +infinity at
+        ''' -6.5, -6 and -4 and within 4.4e-16 of -2 and 0; else NaN from -1 (and the double before
+        ''' it) up to 0, from -3 up to -2, from -5 up to -4 and from about -6.19 up to -6; far off
+        ''' from -6.5 to -6.19</param>
+        ''' <returns>-1.79769313486231e+308 for x below -6.5; +infinity from about 2.56e305; NaN for
+        ''' +infinity</returns>
+        ''' <example><code>GammaLn(0.5) &gt; 0.57236494292 AndAlso GammaLn(0.5) &lt; 0.57236494293  ' True</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function GammaLn(x As Double) As Double
         End Function
 
-        ' Never called: arguments do not pass through here.
-        Public Function MarshalManagedToNative(ByVal text As Object) As IntPtr _
-            Implements ICustomMarshaler.MarshalManagedToNative
-            Throw New NotSupportedException
+        ''' <summary>n factorial, in one table look-up.</summary>
+        ''' <returns>1 for n below 2; +infinity above 170</returns>
+        ''' <example><code>Fact(5)  ' 120</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function Fact(n As Integer) As Double
         End Function
-        Public Sub CleanUpManagedData(ByVal text As Object) _
-            Implements ICustomMarshaler.CleanUpManagedData
+
+        ''' <summary>The number of ways to choose k of n.</summary>
+        ''' <returns>+infinity if the coefficient, or a product on the way to it, is out of range; 1
+        ''' + k if n k is 2147483648 or more and k is neither 0 nor below -2147483648</returns>
+        ''' <example><code>Cnk(49, 6)  ' 13983816</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function Cnk(n As Double, k As Double) As Double
+        End Function
+
+        ''' <summary>The sum of Cnk(n, k) for the whole numbers k from from to to, added
+        ''' upward.</summary>
+        ''' <param name="from">truncated toward zero; outside the 32-bit range, or NaN, it counts as
+        ''' -2147483648</param>
+        ''' <param name="to_">the sum ends at the last whole number not above it, and at 2147483647
+        ''' in any case</param>
+        ''' <returns>0 for an empty range or a NaN to; terms with k above n add nothing</returns>
+        ''' <remarks>The result has the bits of the addition term by term, also over billions of
+        ''' terms; long ranges of terms that grow by steps of 1 are added in closed form. A call
+        ''' takes longest for a fractional n near 1020: about a millisecond.</remarks>
+        ''' <example><code>SumCnk(5, 2, 3)  ' 20</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function SumCnk(n As Double, from As Double, to_ As Double) As Double
+        End Function
+
+        ''' <summary>The floored remainder of a by b, which has the sign of b.</summary>
+        ''' <returns>a if b is 0</returns>
+        ''' <example><code>ModLng(-7, 3)  ' 2</code></example>
+        <DllImport(Library, EntryPoint:="Mod", ExactSpelling:=True)>
+        Public Function ModLng(a As Integer, b As Integer) As Integer
+        End Function
+
+        ''' <summary>The floored remainder a - floor(a / b) * b, which the rounded quotient decides:
+        ''' it may miss the range from 0 to b by up to two units in the last place of a.</summary>
+        ''' <returns>NaN if b is 0 or an argument is infinite; an infinity of the sign opposite to a
+        ''' if the quotient, or its floor times b, is out of range; a if the quotient is so small
+        ''' that it is rounded to 0</returns>
+        ''' <example><code>ModDbl(-7.5, 2)  ' 0.5</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function ModDbl(a As Double, b As Double) As Double
+        End Function
+
+        ''' <summary>The largest common divisor.</summary>
+        ''' <returns>not negative, but for -2147483648, whose magnitude has no place in 32
+        ''' bits</returns>
+        ''' <remarks>Zero is neutral and signs do not count.</remarks>
+        ''' <example><code>LCD(-12, 18)  ' 6</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function LCD(a As Integer, b As Integer) As Integer
+        End Function
+
+        ''' <summary>The largest common divisor of two whole numbers held in doubles.</summary>
+        ''' <returns>the magnitude of a if b is 0</returns>
+        ''' <remarks>Only the truncated values take part; but if that of a is a multiple of that of
+        ''' b, the result is the magnitude of b as it was: LCD2(6, 2.5) is 2.5, LCD2(7, 2.5) is
+        ''' 1.</remarks>
+        ''' <example><code>LCD2(12, 18)  ' 6</code></example>
+        <DllImport(Library, EntryPoint:="_Z4LCD2dd", ExactSpelling:=True)>
+        Public Function LCD2(a As Double, b As Double) As Double
+        End Function
+
+        ''' <summary>The largest common divisor of two decimal numbers, for instance 0.25 of 0.5 and
+        ''' 0.75.</summary>
+        ''' <param name="a">times the power of ten, below 2147483648 in magnitude; beyond, the
+        ''' result is a divisor of other numbers</param>
+        ''' <param name="b">likewise</param>
+        ''' <example><code>LCDDbl(0.29, 0.29)  ' 0.29</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Function LCDDbl(a As Double, b As Double) As Double
+        End Function
+
+        ''' <summary>Whether x is a whole number within 1e-12, of any size.</summary>
+        ''' <remarks>True for infinities and NaN.</remarks>
+        ''' <example><code>IsLong(3.0000000000009)  ' True</code></example>
+        Public Function IsLong(x As Double) As Boolean
+            Return Dll.IsLong(x) <> 0
+        End Function
+
+        ''' <summary>Whether x is a whole number within tol, inclusive.</summary>
+        ''' <remarks>True if either is NaN.</remarks>
+        ''' <example><code>IsLongP(2.75, 0.25)  ' True</code></example>
+        Public Function IsLongP(x As Double, tol As Double) As Boolean
+            Return Dll.IsLongP(x, tol) <> 0
+        End Function
+
+        ''' <summary>Whether half of x, as rounded, is whole or less than 2^-52 above a whole
+        ''' number.</summary>
+        ''' <remarks>One just below does not count, but for the negative double closest to 0, whose
+        ''' half is rounded to 0. False for infinities and NaN.</remarks>
+        ''' <example><code>IsEven(-2.0)  ' True</code></example>
+        Public Function IsEven(x As Double) As Boolean
+            Return Dll.IsEven(x) <> 0
+        End Function
+
+        ''' <summary>Whether n is even.</summary>
+        ''' <example><code>IsEvenLng(3)  ' False</code></example>
+        Public Function IsEvenLng(n As Integer) As Boolean
+            Return Dll.IsEvenLng(n) <> 0
+        End Function
+
+        ''' <summary>v moved away from zero: a value that is not whole goes to the next whole number
+        ''' or, with half, to the next multiple of a half.</summary>
+        ''' <returns>+0.0 for both zeros; NaN for an infinity or NaN</returns>
+        ''' <remarks>The half point itself goes on to the whole number, and so does a fraction less
+        ''' than 1e-12 below it. The step is taken from abs(v) + 1 as rounded, so the last double
+        ''' below a power of two from 1 to 2^51 goes on to the grid point after that. From
+        ''' 2147483647 in magnitude, half has no effect.</remarks>
+        ''' <example><code>Int05(2.1, True)  ' 2.5</code></example>
+        Public Function Int05(v As Double, half As Boolean) As Double
+            Return Dll.Int05(v, CInt(half))
+        End Function
+
+        ''' <summary>v moved to the closest whole number or, with half, to the closest multiple of a
+        ''' half.</summary>
+        ''' <returns>+0.0 for both zeros, -0.0 for a negative value that comes to nothing; NaN for
+        ''' an infinity or NaN</returns>
+        ''' <remarks>Of two equally close whole numbers the one nearer to zero is taken, up to 15.5
+        ''' (from 16.5 the one further away). So it is for the first doubles beyond the tie: eight
+        ''' at 0.5, three at 1.5, one each at 2.5 and 3.5. With half, a quarter point, and a value
+        ''' less than 1e-12 beyond it, goes to the whole number.</remarks>
+        ''' <example><code>Int05c(2.4, True)  ' 2.5</code></example>
+        Public Function Int05c(v As Double, half As Boolean) As Double
+            Return Dll.Int05c(v, CInt(half))
+        End Function
+
+        ''' <summary>v moved down or up the number line to a whole number or, with half, to a
+        ''' multiple of a half.</summary>
+        ''' <param name="lower">down if it is True, otherwise up</param>
+        ''' <returns>an infinity for itself; NaN for NaN</returns>
+        ''' <remarks>A value on the grid stays. No tolerance. Upward, the step to a whole number is
+        ''' taken from 1 + v as rounded: from -2^-54 to the last double below 0 the result is 1, and
+        ''' the last double below a power of two from 1 to 2^51 goes on to the whole number after
+        ''' that.</remarks>
+        ''' <example><code>Int05LU(-2.1, True, True)  ' -2.5</code></example>
+        Public Function Int05LU(v As Double, half As Boolean, lower As Boolean) As Double
+            Return Dll.Int05LU(v, CInt(half), CInt(lower))
+        End Function
+
+        ''' <summary>The straight line through (x1, y1) and (x2, y2), used in either
+        ''' direction.</summary>
+        ''' <example><code>x = 2 : LinearInterpol(1, 3, 2, 6, x, y, True)  ' y = 4</code></example>
+        Public Function LinearInterpol(x1 As Double, x2 As Double, y1 As Double, y2 As Double,
+            ByRef x As Double, ByRef y As Double, forward As Boolean) As Integer
+            Return Dll.LinearInterpol(x1, x2, y1, y2, x, y, CInt(forward))
+        End Function
+
+        ''' <summary>The parabola a * x^2 + b * x + c through three points, used in either
+        ''' direction.</summary>
+        ''' <example><code>x = 5 : QuadraticInterpol(1, 2, 4, 0, 0, 6, x, xSecond, y, True)  ' y = 12</code></example>
+        Public Function QuadraticInterpol(x1 As Double, x2 As Double, x3 As Double, y1 As Double,
+            y2 As Double, y3 As Double, ByRef x As Double, ByRef xSecond As Double,
+            ByRef y As Double, forward As Boolean) As Integer
+            Return Dll.QuadraticInterpol(x1, x2, x3, y1, y2, y3, x, xSecond, y, CInt(forward))
+        End Function
+
+        ''' <summary>Replaces every occurrence of pattern in text.</summary>
+        ''' <param name="text">text to search; it stays as it is</param>
+        ''' <param name="pattern">what to look for; Nothing: the result is text</param>
+        ''' <param name="replacement">what to put in its place; Nothing: nothing</param>
+        ''' <param name="result">tells what the library did to its copy of text</param>
+        ''' <returns>new String; Nothing if text is Nothing</returns>
+        ''' <example><code>VB_Replace("a-b-c", "-", "--")  ' "a--b--c"</code></example>
+        Public Function VB_Replace(text As String, pattern As String, replacement As String,
+            Optional ByRef result As ReplaceResult = ReplaceResult.NewString) As String
+            ' The library writes to text if pattern and replacement are one code unit each.
+            Dim copy = HostString(text)
+            Dim handle = Dll_VB_Replace(copy, pattern, replacement)
+            If handle = copy Then
+                result = ReplaceResult.TextItself
+            Else
+                Dim after = Marshal.PtrToStringUni(copy)
+                Dim isSame = String.CompareOrdinal(after, 0, text, 0, after.Length) = 0
+                result = If(isSame, ReplaceResult.NewString, ReplaceResult.TextChanged)
+                releaseBSTR(copy)
+            End If
+            Return TakeText(handle)
+        End Function
+
+        <DllImport(Library, EntryPoint:="VB_Replace", CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+        Private Function Dll_VB_Replace(
+            text As IntPtr, pattern As String, replacement As String) As IntPtr
+        End Function
+
+        ''' <summary>Sets the first count elements of an array to one decimal pattern.</summary>
+        ''' <param name="formats">the array</param>
+        ''' <param name="count">number of elements; below 1 nothing happens</param>
+        ''' <param name="digits">digits of the pattern, the one before the point included</param>
+        ''' <param name="digitsOverride">if it is not -1, it counts in the place of digits</param>
+        ''' <exception cref="ArgumentNullException">formats is Nothing</exception>
+        ''' <exception cref="ArgumentOutOfRangeException">formats has less than count
+        ''' elements</exception>
+        ''' <example><code>Dim f(0) As String : VB_SetFormat(f, 1, 4)  ' f(0) = "0.000"</code></example>
+        Public Sub VB_SetFormat(formats As String(), count As Integer, digits As Integer,
+            Optional digitsOverride As Integer = -1)
+            If formats Is Nothing Then Throw New ArgumentNullException(NameOf(formats))
+            If count > formats.Length Then Throw New ArgumentOutOfRangeException(NameOf(count))
+            If count < 1 Then Return
+            Dim elements(count - 1) As IntPtr
+            Dll_VB_SetFormat(elements(0), count, digits, digitsOverride)
+            For i = 0 To count - 1
+                formats(i) = TakeText(elements(i))
+            Next
         End Sub
-    End Class
 
-End Module
+        <DllImport(Library, EntryPoint:="VB_SetFormat", ExactSpelling:=True)>
+        Private Sub Dll_VB_SetFormat(ByRef formats As IntPtr, count As Integer, digits As Integer,
+            digitsOverride As Integer)
+        End Sub
+
+        ''' <summary>Prints a value by a pattern that the library returned.</summary>
+        ''' <param name="value">the value</param>
+        ''' <param name="pattern">a result of VB_OutputFormat, VB_OptimalFormat, Cpp_DecimalFormat or
+        ''' VB_SetFormat</param>
+        ''' <param name="provider">the decimal separator and the signs; Nothing: "." and "-" in any
+        ''' culture</param>
+        ''' <returns>the number as a text</returns>
+        ''' <exception cref="ArgumentNullException">pattern is Nothing</exception>
+        ''' <remarks>Format of .NET does not know E-# and prints it as letters.</remarks>
+        ''' <example><code>FormatByPattern(0.00001, "0.###E-#")  ' "1E-5"</code></example>
+        Public Function FormatByPattern(value As Double, pattern As String,
+            Optional provider As IFormatProvider = Nothing) As String
+            If pattern Is Nothing Then Throw New ArgumentNullException(NameOf(pattern))
+            If provider Is Nothing Then provider = CultureInfo.InvariantCulture
+            ' A custom format of .NET rounds to 15 digits, "F" does not round.
+            If pattern.Contains("#"c) OrElse pattern.Contains("E"c) Then
+                Return value.ToString(pattern.Replace("E-#", "E-0"), provider)
+            End If
+            Return value.ToString("F" & Math.Max(pattern.Length - 2, 0), provider)
+        End Function
+
+        ''' <summary>Swaps two host strings, which HostString returned.</summary>
+        ''' <param name="a">a handle, or IntPtr.Zero</param>
+        ''' <param name="b">a handle, or IntPtr.Zero</param>
+        ''' <example><code>Dim a = HostString("a"), b = HostString("b") : SwapStr(a, b)
+        ''' ' TakeText(a) &amp; TakeText(b) = "ba"</code></example>
+        <DllImport(Library, ExactSpelling:=True)>
+        Public Sub SwapStr(ByRef a As IntPtr, ByRef b As IntPtr)
+        End Sub
+
+        ''' <summary>Returns a new host string, which the caller passes to TakeText once.</summary>
+        ''' <param name="text">the text; Nothing: the null handle</param>
+        ''' <returns>the handle</returns>
+        ''' <example><code>TakeText(HostString("text"))  ' "text"</code></example>
+        Public Function HostString(text As String) As IntPtr
+            Return If(text Is Nothing, IntPtr.Zero, SysAllocString16(text))
+        End Function
+
+        ''' <summary>Releases a host string and returns its text.</summary>
+        ''' <param name="handle">the host string; IntPtr.Zero: the result is Nothing</param>
+        ''' <returns>new String</returns>
+        ''' <example><code>TakeText(IntPtr.Zero) Is Nothing  ' True</code></example>
+        Public Function TakeText(handle As IntPtr) As String
+            Try
+                Return Marshal.PtrToStringUni(handle)
+            Finally
+                releaseBSTR(handle)
+            End Try
+        End Function
+
+        <DllImport("QUVARDCR1C.dll", CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+        Private Function SysAllocString16(units As String) As IntPtr
+        End Function
+        <DllImport("QUVARDCR1C.dll", ExactSpelling:=True)>
+        Private Sub releaseBSTR(handle As IntPtr)
+        End Sub
+
+        ' The library's own forms: a text that results is a host string, and True is -1.
+        Private NotInheritable Class Dll
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_StrLeft(s As String, n As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_StrRight(s As String, n As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_StrConcat(a As String, b As String, c As String, d As String,
+                e As String, f As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_StrLTrim(s As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_StrRTrim(s As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_StrLRTrim(s As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_RemoveChar(s As String, chars As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_RemoveNonNumericChar(s As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_RemoveColon(s As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_CommonChar(text As String, chars As String) As Integer
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function StrFromTo(text As String, from As Integer,
+                to_ As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function StrBetween(text As String, from As Integer,
+                to_ As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function StrFromChrToChr(text As String, opening As String,
+                closing As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function StrBetweenChrAndChr(text As String, opening As String,
+                closing As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_Replace2(text As String, pattern1 As String,
+                replacement1 As String, pattern2 As String, replacement2 As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_LocalAN(adjective As String, noun As String,
+                language As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_LocalAN2(adjective As String, noun As String,
+                language As String, upperAdjective As Integer, lowerResult As Integer,
+                noBlank As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_LowerFirst(text As String, language As String,
+                forceDE As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_UpperFirst(text As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_SpStrSp(text As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_PStrP(text As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_BStrB(text As String) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_SingPlural(singular As String, plural As String,
+                count As Integer) As IntPtr
+            End Function
+            <DllImport(Library, CharSet:=CharSet.Unicode, ExactSpelling:=True)>
+            Friend Shared Function VB_QUVARDHTMLProcessor(text As String) As IntPtr
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function Cpp_DecimalFormat(decimals As Integer) As IntPtr
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function VB_OutputFormat(value As Double) As IntPtr
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function VB_OptimalFormat(value As Double, decimals As Integer,
+                useExponent As Integer, keepDecimals As Integer) As IntPtr
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function IsLong(x As Double) As Integer
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function IsLongP(x As Double, tol As Double) As Integer
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function IsEven(x As Double) As Integer
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function IsEvenLng(n As Integer) As Integer
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function Int05(v As Double, half As Integer) As Double
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function Int05c(v As Double, half As Integer) As Double
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function Int05LU(v As Double, half As Integer, lower As Integer) As Double
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function LinearInterpol(x1 As Double, x2 As Double, y1 As Double,
+                y2 As Double, ByRef x As Double, ByRef y As Double, forward As Integer) As Integer
+            End Function
+            <DllImport(Library, ExactSpelling:=True)>
+            Friend Shared Function QuadraticInterpol(x1 As Double, x2 As Double, x3 As Double,
+                y1 As Double, y2 As Double, y3 As Double, ByRef x As Double,
+                ByRef xSecond As Double, ByRef y As Double, forward As Integer) As Integer
+            End Function
+        End Class
+    End Module
+End Namespace
