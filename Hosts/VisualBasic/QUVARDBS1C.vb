@@ -182,8 +182,8 @@ Namespace Global.QUVARDBS1C
         Public Function VB_LocalAN2(adjective As String, noun As String, language As String,
             Optional upperAdjective As Boolean = True, Optional lowerResult As Boolean = False,
             Optional noBlank As Boolean = False) As String
-            Return TakeText(Dll.VB_LocalAN2(adjective, noun, language, CInt(upperAdjective), CInt(
-                lowerResult), CInt(noBlank)))
+            Return TakeText(Dll.VB_LocalAN2(adjective, noun, language, CInt(upperAdjective),
+                CInt(lowerResult), CInt(noBlank)))
         End Function
 
         ''' <summary>text with its first unit lower-cased, as StrLCase() does it.</summary>
@@ -270,8 +270,8 @@ Namespace Global.QUVARDBS1C
         ''' <example><code>VB_OptimalFormat(2.5, 3, False, False)  ' "0.000"</code></example>
         Public Function VB_OptimalFormat(value As Double, decimals As Integer,
             useExponent As Boolean, keepDecimals As Boolean) As String
-            Return TakeText(Dll.VB_OptimalFormat(value, decimals, CInt(useExponent), CInt(
-                keepDecimals)))
+            Return TakeText(Dll.VB_OptimalFormat(value, decimals, CInt(useExponent),
+                CInt(keepDecimals)))
         End Function
 
         ''' <summary>The constant 3.14159265358979, which is 7 units in the last place below the
@@ -635,7 +635,7 @@ Namespace Global.QUVARDBS1C
         ''' <summary>Releases a host string and returns its text.</summary>
         ''' <param name="handle">the host string; IntPtr.Zero: the result is Nothing</param>
         ''' <returns>new String</returns>
-        ''' <example><code>TakeText(IntPtr.Zero) Is Nothing  ' True</code></example>
+        ''' <example><code>TakeText(HostString(Nothing)) Is Nothing  ' True</code></example>
         Public Function TakeText(handle As IntPtr) As String
             Try
                 Return Marshal.PtrToStringUni(handle)

@@ -178,15 +178,16 @@ def example(routine):
 
 # ---- Declarations ----
 
-def wrapped(line, indent, continuation):
-    """A line of code, continued after commas and opening parentheses where it is too long."""
+def wrapped(line, indent, continuation=""):
+    """A line of code, continued after a comma or an opening parenthesis where it is too long."""
     lines = [""]
-    for part in re.findall(r".*?(?:, |\((?=\w)|$)", line):
+    for part in re.split(r"(?<=, )|(?<=\()(?<!CInt\()(?<!CLng\()(?<!StrPtr\()(?=\w)|(?= Alias)", line):
         if len(lines[-1] + part.rstrip() + continuation) > WIDTH:
             lines[-1] = lines[-1].rstrip() + continuation
             lines.append(indent + "    ")
+            part = part.lstrip()
         lines[-1] += part
-    return "\n".join(lines)
+    return "\n".join(lines) + "\n"
 
 
 class Dialect:
@@ -248,7 +249,7 @@ def net(routine):
 
     def function(indent, access, signature, attribute, body=""):
         start = f"{indent}{access} {word(routine)} {name}{signature}"
-        return attribute + wrapped(start, indent, "") + "\n" + body + f"{indent}End {word(routine)}\n"
+        return attribute + wrapped(start, indent) + body + f"{indent}End {word(routine)}\n"
 
     public = NET.signature(routine, "String", "Boolean", "String", True)
     text = documentation(routine, indent)
@@ -259,7 +260,7 @@ def net(routine):
                      for a, k in routine.arguments)
     call = f"Dll.{name}({call})"
     call = {"BSTR": f"TakeText({call})", "HostBool": f"{call} <> 0"}.get(routine.result, call)
-    body = wrapped(f"{indent}    Return {call}", indent + "    ", "") + "\n"
+    body = wrapped(f"{indent}    Return {call}", indent + "    ")
     private = NET.signature(routine, "String", "Integer", "IntPtr")
     return (text + function(indent, "Public", public, "", body) + "\n",
             function(indent + "    ", "Friend Shared", private, f"{indent}    {attribute}\n"))
@@ -276,7 +277,7 @@ def applications(routine):
     signature = APPLICATIONS.signature(routine, "LongPtr", "Long", "LongPtr")
     access = "Private" if needs_function else "Public"
     declaration = wrapped(f'{access} Declare PtrSafe {word(routine)} {native} Lib "QUVARDBS1C.dll"'
-                          f"{alias} {signature}", "", " _") + "\n"
+                          f"{alias} {signature}", "", " _")
     summary = "".join(f"' {line}\n" for line in textwrap.wrap(routine.brief, WIDTH - 2))
     summary = summary.replace("Nothing", "vbNullString")
     if not needs_function:
@@ -286,8 +287,8 @@ def applications(routine):
     call = f"{native}({call})"
     call = {"BSTR": f"TakeText({call})", "HostBool": f"CBool({call})"}.get(routine.result, call)
     start = f"Public Function {name}{APPLICATIONS.signature(routine, 'String', 'Boolean', 'String', True)}"
-    return declaration, (summary + wrapped(start, "", " _") + "\n"
-                         + wrapped(f"    {name} = {call}", "    ", " _") + "\nEnd Function\n\n")
+    return declaration, (summary + wrapped(start, "", " _")
+                         + wrapped(f"    {name} = {call}", "    ", " _") + "End Function\n\n")
 
 
 def declared_in(text, name):
