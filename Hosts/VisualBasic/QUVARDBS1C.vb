@@ -15,19 +15,19 @@ Imports System.Runtime.InteropServices
 
 Namespace Global.QUVARDBS1C
 
-    ''' <summary>What a call of VB_Replace did to the copy that the library was given.</summary>
-    Public Enum ReplaceResult
-        ''' <summary>The result is a new text, and the copy is unchanged.</summary>
-        NewString
-        ''' <summary>The result is a new text, and the copy was changed as well.</summary>
-        TextChanged
-        ''' <summary>The result is the copy itself, because text or pattern is Nothing.</summary>
-        TextItself
-    End Enum
-
     ''' <summary>The routines of the library.</summary>
     Public Module Routines
         Private Const Library As String = "QUVARDBS1C.dll"
+
+        ''' <summary>What a call of VB_Replace did to the copy that the library was given.</summary>
+        Public Enum ReplaceResult
+            ''' <summary>The result is a new text, and the copy is unchanged.</summary>
+            NewString
+            ''' <summary>The result is a new text, and the copy was changed as well.</summary>
+            TextChanged
+            ''' <summary>The result is the copy itself, because text or pattern is Nothing.</summary>
+            TextItself
+        End Enum
 
         ''' <summary>The first n units of s.</summary>
         ''' <param name="n">number of units; above the length of s, or negative: all of s</param>
@@ -549,18 +549,19 @@ Namespace Global.QUVARDBS1C
         ''' <example><code>VB_Replace("a-b-c", "-", "--")  ' "a--b--c"</code></example>
         Public Function VB_Replace(text As String, pattern As String, replacement As String,
             Optional ByRef result As ReplaceResult = ReplaceResult.NewString) As String
-            ' The library writes to text if pattern and replacement are one code unit each.
             Dim copy = HostString(text)
             Dim handle = Dll_VB_Replace(copy, pattern, replacement)
-            If handle = copy Then
-                result = ReplaceResult.TextItself
-            Else
-                Dim after = Marshal.PtrToStringUni(copy)
-                Dim isSame = String.CompareOrdinal(after, 0, text, 0, after.Length) = 0
-                result = If(isSame, ReplaceResult.NewString, ReplaceResult.TextChanged)
+            Dim replaced = TakeText(handle)
+            result = ReplaceResult.TextItself
+            If handle <> copy Then
+                ' The library writes to its text where pattern and replacement are one code unit each.
+                Dim first = If(pattern.Length = 0, -1, text.IndexOf(pattern(0)))
+                Dim isChanged = first >= 0 AndAlso first < replaced.Length AndAlso
+                    ChrW(Marshal.ReadInt16(copy, 2 * first)) <> text(first)
+                result = If(isChanged, ReplaceResult.TextChanged, ReplaceResult.NewString)
                 releaseBSTR(copy)
             End If
-            Return TakeText(handle)
+            Return replaced
         End Function
 
         <DllImport(Library, EntryPoint:="VB_Replace", CharSet:=CharSet.Unicode, ExactSpelling:=True)>
@@ -618,8 +619,7 @@ Namespace Global.QUVARDBS1C
         ''' <summary>Swaps two host strings, which HostString returned.</summary>
         ''' <param name="a">a handle, or IntPtr.Zero</param>
         ''' <param name="b">a handle, or IntPtr.Zero</param>
-        ''' <example><code>Dim a = HostString("a"), b = HostString("b") : SwapStr(a, b)
-        ''' ' TakeText(a) &amp; TakeText(b) = "ba"</code></example>
+        ''' <example><code>Dim a = HostString("a"), b = HostString("b") : SwapStr(a, b)  ' TakeText(a) &amp; TakeText(b) = "ba"</code></example>
         <DllImport(Library, ExactSpelling:=True)>
         Public Sub SwapStr(ByRef a As IntPtr, ByRef b As IntPtr)
         End Sub

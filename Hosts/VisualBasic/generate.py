@@ -313,12 +313,10 @@ def page():
     rows = {}
     for comment, name, rest in re.findall(
             r"((?: +'''.*\n)+)(?: +<.*>\n)? +Public (?:Function|Sub) (\w+)((?:.*,\n)*.*)", text):
-        comment = unescape(one_line(re.sub(r"^ +'''", "", comment, flags=re.M)), {"&quot;": '"'})
-        # Two blanks before a comment.
-        line = re.search(r"<example><code>(.*)</code>", comment)
-        line = re.sub(r" ' ", "  ' ", line[1], count=1)
-        rows[name] = (f"| `{name}{one_line(rest)}` | "
-                      f"{re.search(r'<summary>(.*)</summary>', comment)[1]} | `{line}` |\n")
+        example_line = unescape(re.search("<example><code>(.*)</code>", comment)[1])
+        comment = one_line(re.sub(r"^ +'''", "", comment, flags=re.M))
+        rows[name] = (f"| `{name}{one_line(rest)}` | {re.search('<summary>(.*)</summary>', comment)[1]} "
+                      f"| `{example_line}` |\n")
     result = (FOLDER / "routines.md.in").read_text(encoding="ascii")
     for title, routines in read_header():
         names = [RENAMED.get(r.name, r.name) for r in routines]

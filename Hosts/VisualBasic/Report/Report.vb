@@ -1,6 +1,7 @@
 ' The report of the example host, written in Visual Basic: it calls the library through QUVARDBS1C.vb
 ' and prints numbers by the patterns that the library builds.
 Option Strict On
+Imports QUVARDBS1C.Routines
 Imports System.Globalization
 Imports System.Text
 
@@ -97,29 +98,26 @@ Module Report
         AddText("commas counted", "a, b, c", CStr(ChrCount("a, b, c", ",")))
     End Sub
 
-    Private Function Printed(value As Double, pattern As String) As String
-        Return value.ToString(pattern, CultureInfo.InvariantCulture)
-    End Function
-
     ' A number by the pattern that shows its decimals.
     Private Function Number(value As Double) As String
-        Return Printed(value, VB_OutputFormat(value))
+        Return FormatByPattern(value, VB_OutputFormat(value))
     End Function
 
     Private Sub AddNumbers()
         AddRow({"value", "pattern at 3 decimals", "printed", "pattern of all decimals", "printed"},
                18, 25)
         For Each value In {0, 42, 2.5, -1 / 3, 0.00012, 1.5E-11, 123456, 98765.4321, 12345678901.5}
-            Dim given = Printed(value, "G15").ToLowerInvariant()
+            Dim given = value.ToString("g15", CultureInfo.InvariantCulture)
             Dim optimal = VB_OptimalFormat(value, 3, True, True)
             Dim all = VB_OutputFormat(value)
-            AddRow({given, optimal, Printed(value, optimal), all, Printed(value, all)}, 20, 25)
+            AddRow({given, optimal, FormatByPattern(value, optimal),
+                    all, FormatByPattern(value, all)}, 20, 25)
         Next
         Dim formats(0) As String
         VB_SetFormat(formats, 1, 5, -1)
         AddLine()
         AddLine("  Pi with the pattern of five digits, " & formats(0) & ": " &
-                Printed(3.14159265358979, formats(0)))
+                FormatByPattern(3.14159265358979, formats(0)))
     End Sub
 
     Private Sub AddStatistics()
