@@ -89,7 +89,6 @@ Namespace Global.QUVARDBS1C
 
         ''' <summary>s without any colon.</summary>
         ''' <returns>Nothing for Nothing</returns>
-        ''' <remarks>Unlike RemoveColon() it leaves blanks at the ends in place.</remarks>
         ''' <example><code>VB_RemoveColon(" a:b ")  ' " ab "</code></example>
         Public Function VB_RemoveColon(s As String) As String
             Return TakeText(Dll.VB_RemoveColon(s))

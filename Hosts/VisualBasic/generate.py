@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Prints a file for Visual Basic, generated from the library's header:
+"""Prints a file for Visual Basic, generated from the library's header by way of Doxygen's XML:
 
-    Hosts/VisualBasic/generate.py vb     declarations for .NET (QUVARDBS1C.vb)
-    Hosts/VisualBasic/generate.py bas    declarations for Visual Basic for Applications (QUVARDBS1C.bas)
-    Hosts/VisualBasic/generate.py page   the table of all routines (docs/visual-basic-routines.md)
+    generate.py QUVARDBS1C.vb              declarations for .NET
+    generate.py QUVARDBS1C.bas             declarations for Visual Basic for Applications
+    generate.py visual-basic-routines.md   the page of all routines, for docs
 
-Doxygen reads the header. The template of each file has what is written by hand; a routine that the
-template declares is not generated. `scripts/docs --renew` runs this for all three files.
+Each file has a template beside this script with the parts that are written by hand. A routine that a
+template declares is not generated. `scripts/docs --renew` updates all three.
 """
 import re
 import subprocess
@@ -18,128 +18,115 @@ from pathlib import Path
 from xml.sax.saxutils import escape, unescape
 
 FOLDER = Path(__file__).resolve().parent
-ROOT = FOLDER.parents[1]
 HEADER = "Sources/Shared/QUVARDBS1C/QUVARDBS1C.h"
 WIDTH = 100
 
-# Names that the language or its library has: Mod is an operator, Sqr a function, To a keyword.
+# Names that the language has: Mod is an operator, Sqr a function of Applications, To a keyword.
 RENAMED = {"Mod": "ModLng", "sqr": "SqrDbl"}
 RENAMED_ARGUMENTS = {"to": "to_"}
-# Symbols of routines with C++ linkage.
-SYMBOLS = {"LCD2": "_Z4LCD2dd"}
-# Usual values of arguments.
-DEFAULTS = {
-    ("VB_LocalAN2", "upperAdjective"): "True",
-    ("VB_LocalAN2", "lowerResult"): "False",
-    ("VB_LocalAN2", "noBlank"): "False",
-    ("VB_LowerFirst", "forceDE"): "False",
+SYMBOLS = {"LCD2": "_Z4LCD2dd"}  # C++ linkage
+USUAL_VALUES = {  # of flags, which are optional
+    "VB_LocalAN2": {"upperAdjective": "True", "lowerResult": "False", "noBlank": "False"},
+    "VB_LowerFirst": {"forceDE": "False"},
 }
-# What the header says to C and C++ callers, and what it means to a macro.
+# What the header says to C and C++, and what it means in Visual Basic.
 WORDING = [
-    (r"^new host string(; )?", ""),
-    (r"\bthe null handle\b", "Nothing"), (r"\bnull\b", "Nothing"),
-    (r"\bhost string", "String"), (r"\b(is|if) (not )?set\b", r"\1 \2True"),
+    (r"^new host string(; )?", ""), (r"\bhost string", "String"),
+    (r"\b(the )?null( handle)?\b", "Nothing"), (r"\b(is|if) (not )?set\b", r"\1 \2True"),
 ]
 
 
-def words(node):
-    """The text below a node, without tables, titled paragraphs and lists of parameters."""
-    if node.tag in ("parameterlist", "simplesect", "table"):
-        return node.tail or ""
-    return (node.text or "") + "".join(map(words, node)) + (node.tail or "")
+# ---- The header ----
 
-
-def one_line(text):
-    return " ".join(text.split())
+def text_of(node):
+    """The text below a node on one line, without tables, titled paragraphs and parameters."""
+    def words(node):
+        if node.tag in ("parameterlist", "simplesect", "table"):
+            return node.tail or ""
+        return (node.text or "") + "".join(map(words, node)) + (node.tail or "")
+    return " ".join(((node.text or "") + "".join(map(words, node))).split())
 
 
 class Routine:
     def __init__(self, node):
-        self.name = node.findtext("name")
-        self.result = kind(node.find("type"))
-        self.arguments = [(p.findtext("declname"), kind(p.find("type")))
-                          for p in node.iter("param") if p.find("declname") is not None]
-        brief = node.find("briefdescription")
-        details = node.find("detaileddescription")
-        self.brief = one_line(words(brief))
-        self.mentioned = {reference.get("refid") for reference in brief.iter("ref")}
-        self.id = node.get("id")
-        has_table = details.find(".//table") is not None
-        self.details = [] if has_table else list(filter(None, (one_line(words(p)) for p in details)))
-        self.notes = {item.findtext(".//parametername"): one_line(words(item.find("parameterdescription")))
+        brief, details = node.find("briefdescription"), node.find("detaileddescription")
+        self.id, self.name = node.get("id"), node.findtext("name")
+        self.title = RENAMED.get(self.name, self.name)
+        self.result = text_of(node.find("type"))
+        self.arguments = {p.findtext("declname"): text_of(p.find("type")).replace(" ", "")
+                          for p in node.iter("param") if p.find("declname") is not None}
+        self.kinds = {self.result, *self.arguments.values()}
+        self.is_wide = "wstring" in str(self.kinds)
+        self.summary = text_of(brief)
+        self.mentions = {reference.get("refid") for reference in brief.iter("ref")}
+        # A text beside a table refers to it.
+        self.remarks = "" if details.find(".//table") is not None else text_of(details)
+        self.notes = {item.findtext(".//parametername"): text_of(item.find("parameterdescription"))
                       for item in details.findall(".//parameterlist[@kind='param']/parameteritem")}
-        self.returns = [one_line("".join(map(words, section)))
-                        for section in details.iter("simplesect") if section.get("kind") == "return"]
-        code = ["".join(c.itertext()) for c in details.iter("computeroutput")]
-        self.example = next((c for c in reversed(code) if self.name + "(" in c), None)
+        self.returns = "; ".join(map(text_of, details.findall(".//simplesect[@kind='return']")))
+        code = ["".join(node.itertext()) for node in details.iter("computeroutput")]
+        self.example = next((c for c in reversed(code) if self.name + "(" in c), "")
 
-    def is_wide(self):
-        return any("wstring" in kind or "wchar" in kind
-                   for kind in [self.result, *(kind for _, kind in self.arguments)])
+    def take_contract_of(self, form):
+        self.summary, self.remarks = form.summary, form.remarks
+        self.notes = {**form.notes, **self.notes}
+        if self.result == "BSTR" or not self.returns:
+            self.returns = "; ".join(filter(None, (self.returns, form.returns)))
 
-
-def kind(node):
-    return one_line("".join(node.itertext())).replace(" *", "*") if node is not None else ""
+    def translate(self, names, wide):
+        """Words the contract for Visual Basic."""
+        def translated(text):
+            for pattern, replacement in WORDING:
+                text = re.sub(pattern, replacement, text)
+            return re.sub(r"\b\w+(?=\()", lambda name: names.get(name[0], name[0]), text)
+        self.summary, self.returns = translated(self.summary), translated(self.returns)
+        self.notes = {name: translated(note) for name, note in self.notes.items()}
+        # No sentence on routines that are for C++ alone.
+        self.remarks = " ".join(s for s in re.split(r"(?<=\.) ", translated(self.remarks))
+                                if not set(re.findall(r"\w+(?=\()", s)) & wide - {self.name})
+        if self.result == "HostBool":
+            self.returns = re.sub(r"(?<!\S)0\b", "False", self.returns.replace("-1", "True"))
 
 
 def read_header():
-    """The topics of the header, each with its title and its routines for Visual Basic."""
+    """The topics of the header: titles, with the routines that are for Visual Basic."""
     with tempfile.TemporaryDirectory() as folder:
         settings = (f"@INCLUDE = docs/doxygen/Doxyfile\nINPUT = {HEADER}\nOUTPUT_DIRECTORY = {folder}\n"
-                    "GENERATE_HTML = NO\nGENERATE_XML = YES\nXML_PROGRAMLISTING = NO\nWARNINGS = NO\n"
-                    "WARN_IF_DOC_ERROR = NO\nWARN_AS_ERROR = NO\n")
-        subprocess.run(["doxygen", "-"], cwd=ROOT, input=settings, text=True, check=True,
+                    "GENERATE_HTML = NO\nGENERATE_XML = YES\nWARN_AS_ERROR = NO\n")
+        subprocess.run(["doxygen", "-"], cwd=FOLDER.parents[1], input=settings, text=True, check=True,
                        stderr=subprocess.DEVNULL)
-        index = ElementTree.parse(f"{folder}/xml/{Path(HEADER).stem}_8h.xml")
-        pages = [ElementTree.parse(f"{folder}/xml/{group.get('refid')}.xml")
-                 for group in index.iter("innergroup")] or [
-                ElementTree.parse(path) for path in Path(folder, "xml").glob("group__*.xml")]
+        groups = [ElementTree.parse(path) for path in Path(folder, "xml").glob("group__*.xml")]
     topics = []
-    for page in pages:
-        nodes = list(page.iter("memberdef"))
-        if nodes:
-            line = min(int(n.find("location").get("line")) for n in nodes)
-            title = re.sub(r" *\(.*", "", page.findtext(".//title"))
-            topics.append((line, title, [Routine(n) for n in nodes if n.get("kind") == "function"]))
-    topics = [(title, routines) for _, title, routines in sorted(topics, key=lambda topic: topic[0])]
-    everything = [r for _, routines in topics for r in routines]
-    wide = {r.id: r for r in everything if r.is_wide()}
-    translations = dict(RENAMED)
+    for group in groups:
+        nodes = group.findall(".//memberdef[@kind='function']")
+        line = min(int(node.find("location").get("line")) for node in nodes)
+        title = re.sub(r" *\(.*", "", group.findtext(".//title"))
+        topics.append((line, title, [Routine(node) for node in nodes]))
+    topics.sort(key=lambda topic: topic[0])
+    everything = [routine for topic in topics for routine in topic[2]]
+    wide = {routine.id: routine for routine in everything if routine.is_wide}
+    names = dict(RENAMED)
     for routine in everything:
-        # A host form, whose contract mentions the wide form that has its arguments, has its text.
-        for mentioned in routine.mentioned & wide.keys() if not routine.is_wide() else ():
-            form = wide[mentioned]
-            if len(form.arguments) == len(routine.arguments):
-                translations[form.name] = routine.name
-                routine.brief, routine.details = form.brief, form.details
-                routine.notes = {**form.notes, **routine.notes}
-                if routine.result == "BSTR" or not routine.returns:
-                    routine.returns += [r for r in form.returns if r not in routine.returns]
-    names = re.compile(r"\b(" + "|".join(map(re.escape, translations)) + r")(?=\()")
-
-    def translated(text):
-        for pattern, replacement in WORDING:
-            text = re.sub(pattern, replacement, text)
-        return names.sub(lambda match: translations[match[0]], text)
-
+        # The wide form that a summary mentions, with as many arguments, has the contract.
+        for form in map(wide.get, routine.mentions & wide.keys()):
+            if not routine.is_wide and len(form.arguments) == len(routine.arguments):
+                names[form.name] = routine.name
+                routine.take_contract_of(form)
     for routine in everything:
-        routine.brief = translated(routine.brief)
-        routine.details = [translated(d) for d in routine.details]
-        routine.notes = {name: translated(note) for name, note in routine.notes.items()}
-        routine.returns = list(filter(None, map(translated, routine.returns)))
-        if routine.result == "HostBool":
-            routine.returns = [re.sub(r"(?<!\S)0\b", "False", r.replace("-1", "True"))
-                               for r in routine.returns]
-    return [(title, chosen) for title, routines in topics
-            if (chosen := [r for r in routines if r.id not in wide])]
+        routine.translate(names, {form.name for form in wide.values()})
+    topics = [(title, [r for r in routines if not r.is_wide]) for _, title, routines in topics]
+    return [topic for topic in topics if topic[1]]
 
 
 # ---- Examples ----
 
+STRING = r'"(?:[^"\\]|\\.)*"'
+
+
 def split(text, separator):
     """The parts of an expression between separators that are in no string and no parentheses."""
     parts, depth = [""], 0
-    for token in re.findall(r'"(?:[^"\\]|\\.)*"|' + re.escape(separator) + "|.", text):
+    for token in re.findall(f"{STRING}|{re.escape(separator)}|.", text):
         depth += (token in "([{") - (token in ")]}")
         if token == separator and depth == 0:
             parts.append("")
@@ -149,31 +136,27 @@ def split(text, separator):
 
 
 def flag(value):
-    return {"0": "False"}.get(value, "True")
+    return "False" if value in ("0", "QUVARDBS1C_FALSE") else "True"
 
 
 def example(routine):
-    """The example of a contract, `call == value`, as a line of Visual Basic."""
-    left, *right = split(routine.example, " == ")
-    right = right[0] if right else "-1"
+    """The example of a contract in Visual Basic: "value  ' expected", or, where the header has
+    (statements, value) == expected, "statements  ' value = expected"."""
+    left, right, *_ = split(routine.example, " == ") + ["-1"]
     *statements, value = split(left[1:-1], ",") if left.startswith("(") else [left]
-    if routine.result == "HostBool" and routine.name in value or "&&" in value:
+    if "&&" in value or routine.result == "HostBool" and routine.name in value:
         right = flag(right)
 
     def call(match):
-        arguments = split(match[0][len(routine.name) + 1:-1], ",")
-        flags = [flag(a) if k == "HostBool" else a
-                 for a, (_, k) in zip(arguments, routine.arguments)]
-        return f"{RENAMED.get(routine.name, routine.name)}({', '.join(flags)})"
+        arguments = zip(split(match[1], ","), routine.arguments.values())
+        return f"{routine.title}({', '.join(flag(a) if k == 'HostBool' else a for a, k in arguments)})"
 
     def basic(text):
-        text = re.sub(r"\b" + routine.name + r"\((?:[^()\"]|\"(?:[^\"\\]|\\.)*\"|\([^()]*\))*\)", call, text)
-        text = re.sub(r'B\(u("(?:[^"\\]|\\.)*")\)', lambda m: m[1].replace('\\"', '""'), text)
-        return re.sub(r"(?<!&)&(?=\w)", "", text.replace("nullptr", "Nothing").replace("&&", "AndAlso"))
-
-    if not statements:
-        return f"{basic(value)}  ' {basic(right)}"
-    return f"{' : '.join(map(basic, statements))}  ' {basic(value)} = {basic(right)}"
+        text = re.sub(rf'\b{routine.name}\(((?:{STRING}|\([^()]*\)|[^()"])*)\)', call, text)
+        text = re.sub(rf"B\(u({STRING})\)", lambda string: string[1].replace('\\"', '""'), text)
+        return text.replace("nullptr", "Nothing").replace("&&", "AndAlso").replace(", &", ", ").replace("(&", "(")
+    code = " : ".join(map(basic, statements))
+    return f"{code}  ' {basic(value)} = {basic(right)}" if code else f"{basic(value)}  ' {basic(right)}"
 
 
 # ---- Declarations ----
@@ -181,7 +164,7 @@ def example(routine):
 def wrapped(line, indent, continuation=""):
     """A line of code, continued after a comma or an opening parenthesis where it is too long."""
     lines = [""]
-    for part in re.split(r"(?<=, )|(?<=\()(?<!CInt\()(?<!CLng\()(?<!StrPtr\()(?=\w)|(?= Alias)", line):
+    for part in re.split(r"(?<=, )|(?<=\()(?<!CInt\(|CLng\()(?<!StrPtr\()(?=\w)|(?= Alias)", line):
         if len(lines[-1] + part.rstrip() + continuation) > WIDTH:
             lines[-1] = lines[-1].rstrip() + continuation
             lines.append(indent + "    ")
@@ -190,145 +173,121 @@ def wrapped(line, indent, continuation=""):
     return "\n".join(lines) + "\n"
 
 
-class Dialect:
-    def __init__(self, handle, integer, by_value, by_reference, continuation):
-        self.handle, self.integer = handle, integer
-        self.by_value, self.by_reference, self.continuation = by_value, by_reference, continuation
-
-    def type_of(self, kind, text, flag):
-        return {"BSTR": text, "HostBool": flag, "int32_t": self.integer, "double": "Double"}[kind]
-
-    def signature(self, routine, text, flag, result_text, with_defaults=False):
-        parameters = []
-        for name, kind in routine.arguments:
-            default = with_defaults and DEFAULTS.get((routine.name, name))
-            by = self.by_reference if kind.endswith("*") else self.by_value
-            type_ = self.type_of(kind.rstrip("*"), text, flag)
-            parameters.append(f"{'Optional ' if default else ''}{by}{RENAMED_ARGUMENTS.get(name, name)} "
-                              f"As {type_}{f' = {default}' if default else ''}")
-        result = "" if routine.result == "void" else f" As {self.type_of(routine.result, result_text, flag)}"
-        return f"({', '.join(parameters)}){result}"
+def signature(routine, types, by_value="", defaults=False):
+    """Arguments and result, each by the type that stands for that of C."""
+    arguments = []
+    for name, kind in routine.arguments.items():
+        usual = USUAL_VALUES.get(routine.name, {}).get(name) if defaults else None
+        arguments.append(("Optional " if usual else "") + ("ByRef " if kind.endswith("*") else by_value)
+                         + f"{RENAMED_ARGUMENTS.get(name, name)} As {types[kind.rstrip('*')]}"
+                         + (f" = {usual}" if usual else ""))
+    result = "" if routine.result == "void" else f" As {types[routine.result]}"
+    return f"({', '.join(arguments)}){result}"
 
 
-NET = Dialect("IntPtr", "Integer", "", "ByRef ", "")
-APPLICATIONS = Dialect("LongPtr", "Long", "ByVal ", "ByRef ", " _")
+def call(routine, native, conversions, result):
+    """A call of the library's own form."""
+    arguments = [conversions.get(kind, "{}").format(RENAMED_ARGUMENTS.get(name, name))
+                 for name, kind in routine.arguments.items()]
+    return result.get(routine.result, "{}").format(f"{native}({', '.join(arguments)})")
 
 
-def word(routine):
-    return "Sub" if routine.result == "void" else "Function"
-
-
-def documentation(routine, indent):
-    """The XML comment of a routine."""
-    def element(name, text, attribute=""):
-        return textwrap.wrap(f"<{name}{attribute}>{escape(text)}</{name}>", WIDTH - len(indent) - 4,
-                             break_long_words=False, break_on_hyphens=False)
-    lines = element("summary", routine.brief)
-    for name, _ in routine.arguments:
-        if name in routine.notes:
-            lines += element("param", routine.notes[name],
-                             f' name="{RENAMED_ARGUMENTS.get(name, name)}"')
-    if routine.returns:
-        lines += element("returns", "; ".join(routine.returns))
-    if routine.details:
-        lines += element("remarks", " ".join(routine.details))
+def comment(routine):
+    """The contract as an XML comment."""
+    elements = [("summary", "", routine.summary)]
+    elements += [("param", f' name="{RENAMED_ARGUMENTS.get(name, name)}"', routine.notes[name])
+                 for name in routine.arguments if name in routine.notes]
+    elements += [("returns", "", routine.returns), ("remarks", "", routine.remarks)]
+    lines = [line for tag, attribute, text in elements if text
+             for line in textwrap.wrap(f"<{tag}{attribute}>{escape(text)}</{tag}>", WIDTH - 12)]
     lines.append(f"<example><code>{escape(example(routine))}</code></example>")
-    return "".join(f"{indent}''' {line}\n" for line in lines)
+    return "".join(f"        ''' {line}\n" for line in lines)
 
 
-def net(routine):
-    """The declaration of a routine for .NET: public, and that of the library if it differs."""
-    indent = " " * 8
-    name = RENAMED.get(routine.name, routine.name)
-    kinds = {kind for _, kind in routine.arguments}
-    needs_function = routine.result in ("BSTR", "HostBool") or "HostBool" in kinds
+def declare_net(routine):
+    """What .NET sees, and the library's own form if that differs."""
+    numbers = {"int32_t": "Integer", "double": "Double"}
+    word = "Sub" if routine.result == "void" else "Function"
     symbol = SYMBOLS.get(routine.name, routine.name)
-    entry = "" if symbol == name else f', EntryPoint:="{symbol}"'
-    characters = ", CharSet:=CharSet.Unicode" if "BSTR" in kinds else ""
-    attribute = f"<DllImport(Library{entry}{characters}, ExactSpelling:=True)>"
+    entry = "" if symbol == routine.title else f', EntryPoint:="{symbol}"'
+    text = ", CharSet:=CharSet.Unicode" if "BSTR" in routine.arguments.values() else ""
+    attribute = f"<DllImport(Library{entry}{text}, ExactSpelling:=True)>\n"
 
-    def function(indent, access, signature, attribute, body=""):
-        start = f"{indent}{access} {word(routine)} {name}{signature}"
-        return attribute + wrapped(start, indent) + body + f"{indent}End {word(routine)}\n"
-
-    public = NET.signature(routine, "String", "Boolean", "String", True)
-    text = documentation(routine, indent)
-    if not needs_function:
-        pointers = public.replace("String", "IntPtr") if "BSTR*" in kinds else public
-        return text + function(indent, "Public", pointers, f"{indent}{attribute}\n") + "\n", ""
-    call = ", ".join(f"CInt({a})" if k == "HostBool" else RENAMED_ARGUMENTS.get(a, a)
-                     for a, k in routine.arguments)
-    call = f"Dll.{name}({call})"
-    call = {"BSTR": f"TakeText({call})", "HostBool": f"{call} <> 0"}.get(routine.result, call)
-    body = wrapped(f"{indent}    Return {call}", indent + "    ")
-    private = NET.signature(routine, "String", "Integer", "IntPtr")
-    return (text + function(indent, "Public", public, "", body) + "\n",
-            function(indent + "    ", "Friend Shared", private, f"{indent}    {attribute}\n"))
+    def procedure(indent, start, types, body="", defaults=False):
+        line = f"{indent}{start} {word} {routine.title}{signature(routine, types, defaults=defaults)}"
+        return wrapped(line, indent) + body + f"{indent}End {word}\n"
+    indent, inner = " " * 8, " " * 12
+    public = {**numbers, "BSTR": "String", "HostBool": "Boolean"}
+    if routine.result not in ("BSTR", "HostBool") and "HostBool" not in routine.kinds:
+        return comment(routine) + indent + attribute + procedure(indent, "Public", public) + "\n", ""
+    body = call(routine, f"Dll.{routine.title}", {"HostBool": "CInt({})"},
+                {"BSTR": "TakeText({})", "HostBool": "{} <> 0"})
+    native = signature(routine, {**numbers, "BSTR": "String", "HostBool": "Integer"})
+    native = re.sub("String$", "IntPtr", native)
+    return (comment(routine) + procedure(indent, "Public", public,
+                                         wrapped(f"{inner}Return {body}", inner), True) + "\n",
+            f"{inner}{attribute}" + wrapped(f"{inner}Friend Shared {word} {routine.title}{native}", inner)
+            + f"{inner}End {word}\n")
 
 
-def applications(routine):
-    """The declaration of a routine for Applications, and its function if it needs one."""
-    name = RENAMED.get(routine.name, routine.name)
-    kinds = {kind for _, kind in routine.arguments} | {routine.result}
-    needs_function = bool(kinds & {"BSTR", "HostBool"})
+def declare_applications(routine):
+    """The function of a routine, if it needs one, and the declaration."""
+    numbers = {"int32_t": "Long", "double": "Double"}
+    word = "Sub" if routine.result == "void" else "Function"
+    needs_function = bool(routine.kinds & {"BSTR", "HostBool"})
+    native = ("Dll_" if needs_function else "") + routine.title
     symbol = SYMBOLS.get(routine.name, routine.name)
-    native = f"Dll_{name}" if needs_function else name
     alias = "" if symbol == native else f' Alias "{symbol}"'
-    signature = APPLICATIONS.signature(routine, "LongPtr", "Long", "LongPtr")
-    access = "Private" if needs_function else "Public"
-    declaration = wrapped(f'{access} Declare PtrSafe {word(routine)} {native} Lib "QUVARDBS1C.dll"'
-                          f"{alias} {signature}", "", " _")
-    summary = "".join(f"' {line}\n" for line in textwrap.wrap(routine.brief, WIDTH - 2))
-    summary = summary.replace("Nothing", "vbNullString")
+    arguments = signature(routine, {**numbers, "BSTR": "LongPtr", "HostBool": "Long"}, "ByVal ")
+    declaration = wrapped(f"{'Private' if needs_function else 'Public'} Declare PtrSafe {word} {native} "
+                          f'Lib "QUVARDBS1C.dll"{alias} {arguments}', "", " _")
+    summary = textwrap.fill(routine.summary.replace("Nothing", "vbNullString"), WIDTH,
+                            initial_indent="' ", subsequent_indent="' ") + "\n"
     if not needs_function:
-        return summary + declaration, ""
-    call = ", ".join({"BSTR": f"StrPtr({a})", "HostBool": f"CLng({a})"}.get(k, a) for a, k in
-                     ((RENAMED_ARGUMENTS.get(a, a), k) for a, k in routine.arguments))
-    call = f"{native}({call})"
-    call = {"BSTR": f"TakeText({call})", "HostBool": f"CBool({call})"}.get(routine.result, call)
-    start = f"Public Function {name}{APPLICATIONS.signature(routine, 'String', 'Boolean', 'String', True)}"
-    return declaration, (summary + wrapped(start, "", " _")
-                         + wrapped(f"    {name} = {call}", "    ", " _") + "End Function\n\n")
+        return "", summary + declaration
+    arguments = signature(routine, {**numbers, "BSTR": "String", "HostBool": "Boolean"}, "ByVal ", True)
+    body = call(routine, native, {"BSTR": "StrPtr({})", "HostBool": "CLng({})"},
+                {"BSTR": "TakeText({})", "HostBool": "CBool({})"})
+    return (summary + wrapped(f"Public {word} {routine.title}{arguments}", "", " _")
+            + wrapped(f"    {routine.title} = {body}", "    ", " _") + f"End {word}\n\n", declaration)
 
 
-def declared_in(text, name):
-    return re.search(rf"\b(Function|Sub) {name}\b", text)
+# ---- Files ----
+
+def template(file):
+    return (FOLDER / f"{file}.in").read_text(encoding="utf-8")
 
 
 def declarations(file, declare):
-    """A template with the declarations of all routines that it does not declare itself."""
-    template = (FOLDER / f"{file}.in").read_text(encoding="ascii")
-    first, second = "", ""
-    for _, routines in read_header():
-        for routine in routines:
-            if not declared_in(template, RENAMED.get(routine.name, routine.name)):
-                one, two = declare(routine)
-                first, second = first + one, second + two
-    return template.replace("@FIRST@\n", first).replace("@SECOND@\n", second)
+    text, public, native = template(file), "", ""
+    for routine in (r for _, routines in read_header() for r in routines):
+        if not re.search(rf"\b(Function|Sub) {routine.title}\b", text):
+            parts = declare(routine)
+            public, native = public + parts[0], native + parts[1]
+    return text.replace("@PUBLIC@\n", public).replace("@NATIVE@\n", native)
 
 
-def page():
-    """The table of all routines, with what the file of declarations for .NET says of them."""
-    text = declarations("QUVARDBS1C.vb", net)
+def page(file):
+    """The public members of the declarations for .NET, by topic; those of no topic are helpers."""
     rows = {}
-    for comment, name, rest in re.findall(
-            r"((?: +'''.*\n)+)(?: +<.*>\n)? +Public (?:Function|Sub) (\w+)((?:.*,\n)*.*)", text):
-        example_line = unescape(re.search("<example><code>(.*)</code>", comment)[1])
-        comment = one_line(re.sub(r"^ +'''", "", comment, flags=re.M))
-        rows[name] = (f"| `{name}{one_line(rest)}` | {re.search('<summary>(.*)</summary>', comment)[1]} "
-                      f"| `{example_line}` |\n")
-    result = (FOLDER / "routines.md.in").read_text(encoding="ascii")
-    for title, routines in read_header():
-        names = [RENAMED.get(r.name, r.name) for r in routines]
+    members = r"((?: +'''.*\n)+)(?: +<.*>\n)? +Public (?:Function|Sub) (\w+)((?:.*,\n)*.*)"
+    for text, name, rest in re.findall(members, declarations("QUVARDBS1C.vb", declare_net)):
+        code = unescape(re.search("<example><code>(.*)</code>", text)[1])
+        summary = re.search("<summary>(.*)</summary>", " ".join(re.sub("'''", "", text).split()))[1]
+        rows[name] = f"| `{name}{' '.join(rest.split())}` | {summary} | `{code}` |\n"
+    result = template(file)
+    topics = [(title, [r.title for r in routines]) for title, routines in read_header()]
+    helpers = rows.keys() - {name for _, names in topics for name in names}
+    for title, names in topics + [("Helpers", sorted(helpers))]:
         result += f"\n## {title}\n\n| Routine | What it does | Example |\n| --- | --- | --- |\n"
-        result += "".join(rows.pop(name) for name in names)
-    result += "\n## Helpers in Visual Basic\n\n| Routine | What it does | Example |\n| --- | --- | --- |\n"
-    return result + "".join(rows.values())
+        result += "".join(rows[name] for name in names)
+    return result
 
 
 if __name__ == "__main__":
-    files = {"vb": lambda: declarations("QUVARDBS1C.vb", net),
-             "bas": lambda: declarations("QUVARDBS1C.bas", applications), "page": page}
-    if len(sys.argv) != 2 or sys.argv[1] not in files:
-        sys.exit("usage: generate.py vb|bas|page")
-    sys.stdout.write(files[sys.argv[1]]())
+    writers = {"QUVARDBS1C.vb": lambda file: declarations(file, declare_net),
+               "QUVARDBS1C.bas": lambda file: declarations(file, declare_applications),
+               "visual-basic-routines.md": page}
+    if len(sys.argv) != 2 or sys.argv[1] not in writers:
+        sys.exit(f"usage: generate.py {'|'.join(writers)}")
+    sys.stdout.buffer.write(writers[sys.argv[1]](sys.argv[1]).encode())
