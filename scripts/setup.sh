@@ -59,6 +59,11 @@ macos_needs=(
   npm:npm:node
   llvm-objdump:llvm:llvm
 )
+vba_needs=(
+  cc:gcc:xcode
+  npm:npm:node
+  tree_sitter/api.h:libtree-sitter-dev:tree-sitter
+)
 interface_needs=(
   "${build_needs[@]}"
   g++:g++:xcode

@@ -13,8 +13,8 @@ mkdir -p -- "$folder"
 cd -- "$folder"
 cmake --install "$build" --prefix "$folder/../$part-installed" >installed.log
 # Moved, not copied: a library that is missing here is nowhere else.
-find "$folder/../$part-installed" -name 'QUVARD*.dll' -exec mv -t . {} +
-find "$folder/../$part-installed" -name 'QUVARD*.vb' -exec mv -t . {} +
+find "$folder/../$part-installed" -name 'QUVARD*.dll' -exec mv {} . ';'
+find "$folder/../$part-installed" -name 'QUVARD*.vb' -exec mv {} . ';'
 [ "$#" -eq 0 ] || { rm QUVARDBS1C.vb && cp -- "$@" .; }
 
 # The lines of a language's blocks, each after the number of its block: of those that begin with
@@ -63,6 +63,9 @@ for library in QUVARDCR1C QUVARDBS1C; do
     echo "Without $library.dll the program ran." >&2
     exit 1
   fi
-  grep -q "DllNotFoundException.*QUVARDBS1C.dll" printed && grep -q "$library.dll: " printed ||
-    { echo "Without $library.dll:" >&2; cat printed; exit 1; }
+  if ! grep -q "DllNotFoundException.*QUVARDBS1C.dll" printed || ! grep -q "$library.dll: " printed; then
+    echo "Without $library.dll the program printed:" >&2
+    cat printed
+    exit 1
+  fi
 done
