@@ -554,9 +554,12 @@ Namespace Global.QUVARDBS1C
             result = ReplaceResult.TextItself
             If handle <> copy Then
                 ' The library writes to its text where pattern and replacement are one code unit each.
-                Dim first = If(pattern.Length = 0, -1, text.IndexOf(pattern(0)))
+                Dim first = -1
+                If replaced.Length <= text.Length AndAlso pattern.Length > 0 Then
+                    first = text.IndexOf(pattern(0))
+                End If
                 Dim isChanged = first >= 0 AndAlso first < replaced.Length AndAlso
-                    ChrW(Marshal.ReadInt16(copy, 2 * first)) <> text(first)
+                    (Marshal.ReadInt16(copy, 2 * first) And &HFFFF) <> AscW(text(first))
                 result = If(isChanged, ReplaceResult.TextChanged, ReplaceResult.NewString)
                 releaseBSTR(copy)
             End If
