@@ -142,6 +142,8 @@ def flag(value):
 def example(routine):
     """The example of a contract in Visual Basic: "value  ' expected", or, where the header has
     (statements, value) == expected, "statements  ' value = expected"."""
+    if not routine.example:
+        sys.exit(f"{HEADER}: {routine.name} has no example")
     left, right, *_ = split(routine.example, " == ") + ["-1"]
     *statements, value = split(left[1:-1], ",") if left.startswith("(") else [left]
     if "&&" in value or routine.result == "HostBool" and routine.name in value:
