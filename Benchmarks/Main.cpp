@@ -1,8 +1,9 @@
 // Checks that all contestants of a job agree, and then measures them.
 //
-//   QUVARDBenchmarks [--once] [--benchmark_...]... [GROUP]...
+//   QUVARDBenchmarks [--once | --brief] [--benchmark_...]... [GROUP]...
 //
-// --once runs each contestant once more and measures nothing.
+// --once runs each contestant once more and measures nothing. --brief measures each once, for a few
+// milliseconds, and compares no results.
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -19,6 +20,9 @@ namespace {
 
 constexpr int kRepetitions = 7;
 constexpr double kSecondsOfOne = 0.05;
+constexpr double kSecondsOfBrief = 0.005;
+
+enum class Mode { kFull, kOnce, kBrief };
 
 std::string show(std::u16string_view text, std::size_t at) {
   constexpr std::size_t kBefore = 10, kUnits = 40;
@@ -106,7 +110,7 @@ class Progress {
   std::chrono::steady_clock::time_point told_ = std::chrono::steady_clock::now();
 };
 
-void registerJob(const Job& job, Progress& progress, bool once) {
+void registerJob(const Job& job, Progress& progress, Mode mode) {
   for (const Contestant& contestant : job.contestants) {
     const std::string name = job.group + "/" + job.name + "/" + contestant.name;
     const auto measure = [&job, &contestant, &progress, name](benchmark::State& state) {
@@ -115,8 +119,10 @@ void registerJob(const Job& job, Progress& progress, bool once) {
       state.counters["calls"] = job.calls;
     };
     auto* const registered = benchmark::RegisterBenchmark(name.c_str(), measure);
-    if (once) {
+    if (mode == Mode::kOnce) {
       registered->Iterations(1);
+    } else if (mode == Mode::kBrief) {
+      registered->MinTime(kSecondsOfBrief);
     } else {
       registered->MinTime(kSecondsOfOne)->Repetitions(kRepetitions)->ReportAggregatesOnly();
     }
@@ -131,7 +137,9 @@ const std::pair<std::string, void (*)()> kGroups[] = {{"short", addShortJobs},
                                                       {"growth", addGrowthJobs}};
 
 int run(std::vector<std::string> arguments) {
-  const bool once = std::erase(arguments, "--once") > 0;
+  const Mode mode = std::erase(arguments, "--once") > 0    ? Mode::kOnce
+                    : std::erase(arguments, "--brief") > 0 ? Mode::kBrief
+                                                           : Mode::kFull;
   std::set<std::string> wanted(arguments.begin(), arguments.end());
   for (const auto& [name, addJobs] : kGroups) {
     if (arguments.empty() || wanted.erase(name) > 0) addJobs();
@@ -145,8 +153,8 @@ int run(std::vector<std::string> arguments) {
 
   Progress progress;
   for (const Job& job : jobs()) {
-    if (!isFair(job)) return 1;
-    registerJob(job, progress, once);
+    if (mode != Mode::kBrief && !isFair(job)) return 1;
+    registerJob(job, progress, mode);
   }
 #ifdef __clang__
   benchmark::AddCustomContext("compiler", __VERSION__);
