@@ -26,9 +26,8 @@ inline void announce(const auto& call) {
   if (isAskedFor) std::fprintf(stderr, "%s\n", call().c_str());
 }
 
-// If the number in `choice` has come down to 0, compares a routine with what a namespace has under
-// its name.
-#define CHECK(steps, routine, ...) CHECK_GIVES(routine, steps::routine(__VA_ARGS__), __VA_ARGS__)
+// If the number in `choice` has come down to 0, compares a routine with its reference.
+#define CHECK(routine, ...) CHECK_GIVES(routine, stepwise::routine(__VA_ARGS__), __VA_ARGS__)
 #define CHECK_GIVES(routine, expected, ...)                         \
   if (choice-- == 0)                                                \
   return announce([&] { return showCall(#routine, __VA_ARGS__); }), \

@@ -26,8 +26,8 @@ testing::AssertionResult checkFormat(Random& random) {
   const int32_t decimals = drawDecimals(random), other = drawDecimals(random);
   const double value = drawDouble(random);
   const HostBool useExponent = drawFlag(random), keepDecimals = drawFlag(random);
-  CHECK(stepwise, DecimalFormat, decimals);
-  CHECK(stepwise, OutputFormat, value);
-  CHECK(stepwise, OptimalFormat, value, decimals, useExponent, keepDecimals);
+  CHECK(DecimalFormat, decimals);
+  CHECK(OutputFormat, value);
+  CHECK(OptimalFormat, value, decimals, useExponent, keepDecimals);
   return checkFormatsOf(std::min(drawInteger(random), 8), decimals, other);
 }

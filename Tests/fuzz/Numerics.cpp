@@ -1,85 +1,65 @@
-// Numerics, given the same variable for two results too.
+// The numerics that have a reference, and the interpolations with one variable for two results. The
+// others have their bits alone.
 #include <array>
 
-#include "../Benchmarks/Transcriptions.h"
 #include "fuzz/Checks.h"
+#include "support/NumericReferences.h"
 
 namespace {
 
-// The status of a call and what it leaves in its variables, two of which may be one.
-testing::AssertionResult checkOutcome(Random& random, const std::string& call, auto routine,
-                                      auto steps) {
-  announce([&] { return call; });
-  using Outcome = std::array<double, 4>;
-  const Outcome before{drawDouble(random), drawDouble(random), drawDouble(random), 0.0};
-  const std::size_t i = random.below(3), j = random.below(3), k = random.below(3);
-  const auto outcome = [&](auto called) {
-    Outcome v = before;
-    v[3] = called(&v[i], &v[j], &v[k]);
-    return v;
-  };
-  const Outcome actual = outcome(routine), expected = outcome(steps);
-  if (std::equal(actual.begin(), actual.end(), expected.begin(),
-                 [](double x, double y) { return same(x, y); })) {
-    return testing::AssertionSuccess();
+// Calls an interpolation with three variables of which some may be the same one. Each then holds a
+// result that separate variables hold after the call.
+testing::AssertionResult checkAliases(Random& random, const std::string& name, auto interpolate) {
+  using Variables = std::array<double, 3>;
+  const Variables before{drawDouble(random), drawDouble(random), drawDouble(random)};
+  const std::array<std::size_t, 3> at{random.below(3), random.below(3), random.below(3)};
+  Variables separate{before[at[0]], before[at[1]], before[at[2]]}, actual = before;
+  const int32_t expectedStatus = interpolate(&separate[0], &separate[1], &separate[2]);
+  const int32_t status = interpolate(&actual[at[0]], &actual[at[1]], &actual[at[2]]);
+  bool holds = status == expectedStatus;
+  for (std::size_t variable = 0; variable < 3; ++variable) {
+    bool isResult = std::count(at.begin(), at.end(), variable) == 0;
+    for (std::size_t i = 0; i < 3; ++i) {
+      isResult = isResult || (at[i] == variable && same(actual[variable], separate[i]));
+    }
+    holds = holds && isResult;
   }
-  const auto show = [](const char* what, const Outcome& v) {
-    return showCall(what, v[0], v[1], v[2], v[3]);
+  if (holds) return testing::AssertionSuccess();
+  const auto show = [](int32_t result, const Variables& v) {
+    return showCall(std::to_string(result), v[0], v[1], v[2]);
   };
   return testing::AssertionFailure()
-         << call << showCall(" with these of the variables ", i, j, k)
-         << show(", which are ", before) << show("\n  gives    ", actual)
-         << show("\n  expected ", expected);
+         << showCall(name + " with these of three variables: ", at[0], at[1], at[2])
+         << showCall(", which hold ", before[0], before[1], before[2]) << "\n  gives    "
+         << show(status, actual) << "\n  with separate variables "
+         << show(expectedStatus, separate);
 }
 
 }  // namespace
 
 testing::AssertionResult checkNumeric(Random& random) {
-  std::size_t choice = random.below(32);
+  std::size_t choice = random.below(10);
   const double a = drawDouble(random), b = drawDouble(random), c = drawDouble(random);
   const int32_t m = drawInteger(random), n = drawInteger(random);
-  const HostBool flag1 = drawFlag(random), flag2 = drawFlag(random);
-  const double near = transcribed::TruncLng(b) + random.between(-2, 90);
-  const double whole = static_cast<double>(random.below(1030));
-  CHECK(transcribed, sqr, a);
-  CHECK(transcribed, expm1x, a);
-  CHECK(transcribed, ASin, a);
-  CHECK(transcribed, LogExpAPlusExpB, a, b);
-  CHECK(transcribed, GammaLn, a);
-  CHECK(transcribed, ModDbl, a, b);
-  CHECK(transcribed, IsLongP, a, b);
-  CHECK(transcribed, IsLong, a);
-  CHECK(transcribed, IsEven, a);
-  CHECK(transcribed, IsEvenLng, n);
-  CHECK(transcribed, Int05, a, flag1);
-  CHECK(transcribed, Int05c, a, flag1);
-  CHECK(transcribed, Int05LU, a, flag1, flag2);
-  CHECK(transcribed, LCDDbl, a, b);
-  CHECK(transcribed, Fact, n);
-  CHECK(transcribed, Cnk, a, b);
-  CHECK(transcribed, Cnk, whole, std::fabs(n));
-  CHECK_GIVES(SumCnk, transcribed::sumOf(Cnk, a, b, near), a, b, near);
-  CHECK(transcribed, Mod, m, n);
-  CHECK(transcribed, LCD, m, n);
-  CHECK(transcribed, LCD2, a, b);
-  CHECK_GIVES(Min, a < b ? a : b, a, b);
-  CHECK_GIVES(Max, a > b ? a : b, a, b);
-  CHECK_GIVES(FSgn, transcribed::signOf(a), a);
-  CHECK_GIVES(FSign, b < 0.0 ? -std::fabs(a) : std::fabs(a), a, b);
-  CHECK_GIVES(Log10, std::log10(a), a);
-  CHECK_GIVES(spow, std::pow(a, b), a, b);
+  const double near = stepwise::toInt32(b) + random.between(-2, 90);
+  const double integral = static_cast<double>(random.below(1030));
+  CHECK(Fact, n);
+  CHECK(Cnk, a, b);
+  CHECK(Cnk, integral, std::fabs(n));
+  CHECK_GIVES(SumCnk, stepwise::sumOf(Cnk, a, b, near), a, b, near);
+  CHECK(Mod, m, n);
+  CHECK(LCD, m, n);
+  CHECK(LCD2, a, b);
+  CHECK(LCDDbl, a, b);
   const double y1 = drawDouble(random), y2 = drawDouble(random), y3 = drawDouble(random);
-  const auto linear = [&](auto routine) {
-    return [=](double* x, double*, double* y) { return routine(a, b, y1, y2, x, y, flag1); };
-  };
-  const auto quadratic = [&](auto routine) {
-    return [=](double* x, double* second, double* y) {
-      return routine(a, b, c, y1, y2, y3, x, second, y, flag1);
-    };
-  };
-  return choice == 0 ? checkOutcome(random, showCall("LinearInterpol", a, b, y1, y2, flag1),
-                                    linear(LinearInterpol), linear(transcribed::LinearInterpol))
-                     : checkOutcome(
-                           random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, flag1),
-                           quadratic(QuadraticInterpol), quadratic(transcribed::QuadraticInterpol));
+  const HostBool forward = drawFlag(random);
+  if (choice == 0) {
+    return checkAliases(
+        random, showCall("LinearInterpol", a, b, y1, y2, forward),
+        [=](double* x, double*, double* y) { return LinearInterpol(a, b, y1, y2, x, y, forward); });
+  }
+  return checkAliases(random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, forward),
+                      [=](double* x, double* second, double* y) {
+                        return QuadraticInterpol(a, b, c, y1, y2, y3, x, second, y, forward);
+                      });
 }

@@ -1,16 +1,14 @@
 #include <chrono>
 
-#include "../Benchmarks/Transcriptions.h"
+#include "support/NumericReferences.h"
 #include "support/Random.h"
 #include "support/SmallScopes.h"
 
 namespace {
 
-void expectCnk(double n, double k) { EXPECT_GIVES(Cnk, transcribed::Cnk(n, k), n, k); }
+void expectCnk(double n, double k) { EXPECT_GIVES(Cnk, stepwise::Cnk(n, k), n, k); }
 
-TEST(Factorials, AsTranscribed) { EXPECT_SAME(Fact, transcribed::Fact, integersNear(300)); }
-
-TEST(BinomialCoefficients, AsTranscribed) {
+TEST(Cnk, AsTheReference) {
   for (int n = 0; n <= 1100; n += n < 130 ? 1 : 9) {
     for (int k = 0; k <= n; k += n < 130 ? 1 : 7) expectCnk(n, k);
   }
@@ -23,7 +21,7 @@ TEST(BinomialCoefficients, AsTranscribed) {
     expectCnk(n + k, n);
     expectCnk(std::floor(n), std::floor(k));
     expectCnk(std::floor(n * 2.5), static_cast<double>(random.below(701)));
-    // Of two arguments one is whole, and then what the passes begin with may be whole too.
+    // One of two arguments is integral, so the first factor may be integral too.
     expectCnk(small, std::floor(random.between(0.0, small)));
     expectCnk(std::floor(small), random.between(0.0, small));
     expectCnk(random.between(0.0, 4e9), k);
@@ -33,7 +31,7 @@ TEST(BinomialCoefficients, AsTranscribed) {
   }
 }
 
-TEST(BinomialCoefficients, NoArgumentRunsLong) {
+TEST(Cnk, NoArgumentRunsLong) {
   const auto start = std::chrono::steady_clock::now();
   EXPECT_GIVES(Cnk, kInf, 4294967294.0, 2147483647.0);
   EXPECT_GIVES(Cnk, kInf, 4294967294.5, 2147483647.25);

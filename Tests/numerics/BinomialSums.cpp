@@ -1,17 +1,17 @@
 #include <chrono>
 
-#include "../Benchmarks/Transcriptions.h"
 #include "support/Expectations.h"
+#include "support/NumericReferences.h"
 #include "support/Random.h"
 
 namespace {
 
 // The terms have a test of their own.
 void expectSum(double n, double from, double to) {
-  EXPECT_GIVES(SumCnk, transcribed::sumOf(Cnk, n, from, to), n, from, to);
+  EXPECT_GIVES(SumCnk, stepwise::sumOf(Cnk, n, from, to), n, from, to);
 }
 
-TEST(BinomialSums, AsTranscribed) {
+TEST(SumCnk, AsTheReference) {
   Random random;
   // Around the places where one kind of term ends and the next begins.
   for (int i = 0; i < 3000 && !HasFailure(); ++i) {
@@ -37,7 +37,7 @@ TEST(BinomialSums, AsTranscribed) {
   for (const double n : {5.0, 0.3, 0.5}) expectSum(n, kLowest, kLowest + 2e7);
 }
 
-TEST(BinomialSums, NoArgumentRunsLong) {
+TEST(SumCnk, NoArgumentRunsLong) {
   const auto start = std::chrono::steady_clock::now();
   EXPECT_GIVES(SumCnk, kInf, 4294967294.0, 0, kInf);
   EXPECT_GIVES(SumCnk, 0, -5, 0, kInf);

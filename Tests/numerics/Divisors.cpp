@@ -1,20 +1,16 @@
 #include <numeric>
 
-#include "../Benchmarks/Transcriptions.h"
+#include "support/NumericReferences.h"
 #include "support/Random.h"
 #include "support/SmallScopes.h"
 
-namespace {
-
-TEST(Divisors, OfIntegersNearTheLimits) {
+TEST(LCD, OfIntegersNearTheLimits) {
   const auto integers = integersNear(40, {-65536, 65536});
-  EXPECT_SAME(LCD, transcribed::LCD, integers, integers);
-  EXPECT_SAME(Mod, transcribed::Mod, integers, integers);
-  EXPECT_SAME(IsEvenLng, transcribed::IsEvenLng, integers);
+  EXPECT_SAME(LCD, stepwise::LCD, integers, integers);
 }
 
 // Of i / 10^places and j / 10^places, i and j of any size that fits 32 bits.
-TEST(Divisors, OfDecimals) {
+TEST(LCDDbl, OfDecimals) {
   Random random;
   for (int i = 0; i < 50000 && !HasFailure(); ++i) {
     const double scale = std::pow(10.0, static_cast<double>(random.below(10)));
@@ -24,5 +20,3 @@ TEST(Divisors, OfDecimals) {
         << showCall("LCDDbl", a / scale, b / scale);
   }
 }
-
-}  // namespace
