@@ -1,224 +1,185 @@
-// Every host routine on a million units, where what it looks for occurs about every ten units: from
-// host string to new host string, and for other libraries from a string of 16-bit units to a new one.
-#include "HostJob.h"
-#include "Peers.h"
+// Host routines on a million code units, where what they look for occurs about every ten code units.
+// The peers make the same crossing: from a null-terminated 16-bit text to a new null-terminated one.
+#include <unicode/unistr.h>
+
+#include <boost/algorithm/string.hpp>
+#include <iterator>
+
+#include "HostJobs.h"
 
 namespace benchmarks {
 namespace {
 
-using Text = std::u16string;
-using IcuText = icu::UnicodeString;
+using Text16 = std::u16string;
+using View = std::u16string_view;
 
 constexpr std::size_t kUnits = 1000000;
-constexpr std::size_t kHalf = kUnits / 2;
+constexpr auto kHalf = static_cast<int32_t>(kUnits / 2);
 
-IcuText toIcu(const Text& text) { return {text.data(), static_cast<int32_t>(text.size())}; }
-
-// A job with what a user of the standard library writes, whose result is that of the floor too.
-template <typename ItsRoute, typename Standard, typename Routine, typename... Arguments>
-Job& addLong(const char* name, Standard standard, ItsRoute route, Routine routine,
-             Arguments... arguments) {
-  return addHostJob("long", name, route, standard(), routine, arguments...).add("std", standard);
+Job& add(const char* name, auto routine, auto... arguments) {
+  return addHostJob("long", name, routine, arguments...);
 }
 
-void addSliceJobs() {
-  static const Text text = u"  mean (" + mixText(kUnits, {u","}) + u") of A  ";
-  static const IcuText icuText = toIcu(text);
-  static const Text blanks =
-      repeat(u" ", kHalf / 2) + mixText(kHalf, {u","}) + repeat(u" ", kHalf / 2);
-  static const IcuText icuBlanks = toIcu(blanks);
-  const ViaBuffer route;
-  const BSTR s = keep(text), ofBlanks = keep(blanks);
-  constexpr auto end = static_cast<int32_t>(kUnits);
-  constexpr auto half = static_cast<int32_t>(kHalf);
+// The names of peers.
+constexpr auto kStd = "std", kBoost = "Boost", kIcu = "ICU";
 
-  addLong(
-      "VB_StrLeft", [] { return text.substr(0, kHalf); }, route, VB_StrLeft, s, half)
-      .add("ICU", [] { return IcuText(icuText, 0, half); });
-  addLong(
-      "VB_StrRight", [] { return text.substr(text.size() - kHalf); }, route, VB_StrRight, s, half)
-      .add("ICU", [] { return IcuText(icuText, icuText.length() - half); });
-  addLong(
-      "VB_StrLTrim", [] { return text.substr(2); }, route, VB_StrLTrim, s);
-  addLong(
-      "VB_StrRTrim", [] { return text.substr(0, text.size() - 2); }, route, VB_StrRTrim, s);
-  addLong(
-      "VB_StrLRTrim", [] { return standard::trim(text); }, route, VB_StrLRTrim, s)
-      .add("Boost", [] { return withBoost::trim(text); })
-      .add("ICU", [] { return IcuText(icuText).trim(); });
-  addLong(
-      "VB_StrLRTrim half", [] { return standard::trim(blanks); }, route, VB_StrLRTrim, ofBlanks)
-      .add("Boost", [] { return withBoost::trim(blanks); })
-      .add("ICU", [] { return IcuText(icuBlanks).trim(); });
-  addLong(
-      "StrFromTo", [] { return text.substr(9, kUnits - 9); }, route, StrFromTo, s, 10, end)
-      .add("ICU", [] { return IcuText(icuText, 9, end - 9); });
-  addLong(
-      "StrBetween", [] { return text.substr(10, kUnits - 11); }, route, StrBetween, s, 10, end)
-      .add("ICU", [] { return IcuText(icuText, 10, end - 11); });
-  addLong(
-      "StrBetweenChrAndChr", [] { return standard::between(text, u'(', u')'); }, ViaObject(),
-      StrBetweenChrAndChr, s, u"(", u")");
-  addLong(
-      "StrFromChrToChr",
-      [] { return text.substr(text.find(u'('), text.find(u')') - text.find(u'(') + 1); }, route,
-      StrFromChrToChr, s, u"(", u")");
+Text16 toText(const icu::UnicodeString& text) {
+  return {text.getBuffer(), static_cast<std::size_t>(text.length())};
 }
 
-void addRemovalJobs() {
-  static const Text text = mixText(kUnits, {u":"});
-  static const Text pairs = mixText(kUnits, {u"--", u"---", u"-"});
-  static const Text numbers = mixText(kUnits, {u"1", u"2", u"4", u"8", u"0"});
-  static const IcuText icuNumbers = toIcu(numbers);
-  const ViaBuffer route;
-  const auto erase = [] { return standard::removeUnit(text, u':'); };
-
-  for (Job* job :
-       {&addLong("VB_RemoveChar one unit", erase, route, VB_RemoveChar, keep(text), u":"),
-        &addLong("VB_RemoveColon", erase, ViaUnits(), VB_RemoveColon, keep(text))}) {
-    job->add("Boost", [] { return withBoost::erase_all_copy(text, u":"); }).add("Abseil", [] {
-      return withAbseil::removeUnit(text, u':');
-    });
+Text16 replaceAll(View text, View pattern, View replacement) {
+  Text16 result;
+  result.reserve(text.size());
+  std::size_t from = 0;
+  for (std::size_t at; (at = text.find(pattern, from)) != text.npos; from = at + pattern.size()) {
+    result.append(text, from, at - from).append(replacement);
   }
-  addLong(
-      "VB_RemoveChar two units", [] { return standard::removeFirstOfPairs(pairs, u'-', u'-'); },
-      route, VB_RemoveChar, keep(pairs), u"--");
-  addLong(
-      "VB_RemoveNonNumericChar", [] { return standard::digitsOf(numbers); }, route,
-      VB_RemoveNonNumericChar, keep(numbers))
-      .add("Abseil", [] { return withAbseil::digitsOf(numbers); })
-      .add("ICU", [] { return withIcu::digitsOf(icuNumbers); });
+  return result.append(text, from);
 }
 
-void addSearchJobs() {
-  static const Text text = mixText(kUnits, {u","});
-  static const IcuText icuText = toIcu(text);
-  static const Text pairs = mixText(kUnits, {u", "});
-  static const IcuText icuPairs = toIcu(pairs);
-  static const Text chars = u";:#";
-  const ViaBufferToNumber route;
-
-  addLong(
-      "VB_CommonChar", [] { return text.find_first_of(chars) == text.npos ? 0 : -1; }, route,
-      VB_CommonChar, keep(text), u";:#")
-      .add("Abseil", [] { return absl::c_find_first_of(text, chars) == text.end() ? 0 : -1; });
-  addLong(
-      "ChrCount one unit", [] { return standard::countUnit(text, u','); }, route, ChrCount,
-      keep(text), u",")
-      .add("Boost", [] { return withBoost::count(text, Text(u",")); })
-      .add("Abseil", [] { return withAbseil::countUnit(text, u','); })
-      .add("ICU", [] { return withIcu::count(icuText, u","); });
-  addLong(
-      "ChrCount two units", [] { return standard::count(pairs, Text(u", ")); }, route, ChrCount,
-      keep(pairs), u", ")
-      .add("Boost", [] { return withBoost::count(pairs, Text(u", ")); })
-      .add("ICU", [] { return withIcu::count(icuPairs, u", "); });
+// ICU's own findAndReplace() moves the rest of the text at each occurrence.
+icu::UnicodeString replaceAllWithIcu(const char16_t* s, const icu::UnicodeString& pattern,
+                                     const icu::UnicodeString& replacement) {
+  const icu::UnicodeString text(true, s, -1);
+  icu::UnicodeString result(text.length(), 0, 0);
+  int32_t from = 0;
+  for (int32_t at; (at = text.indexOf(pattern, from)) >= 0; from = at + pattern.length()) {
+    result.append(text, from, at - from).append(replacement);
+  }
+  return result.append(text, from, text.length() - from);
 }
 
-void addReplacement(const char* name, const Text& text, const char16_t* pattern,
+void addSlices() {
+  const BSTR s = keep(u"  mean (" + mixText(kUnits, {u","}) + u") of A  ");
+  const BSTR blanks =
+      keep(repeat(u" ", kUnits / 4) + mixText(kUnits / 2, {u","}) + repeat(u" ", kUnits / 4));
+
+  add("VB_StrLeft", VB_StrLeft, s, kHalf).add(kStd, [=] {
+    return Text16(View(s).substr(0, kUnits / 2));
+  });
+  add("VB_StrLRTrim", VB_StrLRTrim, blanks)
+      .add(kStd,
+           [=] {
+             const View text = blanks;
+             const std::size_t first = text.find_first_not_of(u' ');
+             return Text16(text.substr(first, text.find_last_not_of(u' ') - first + 1));
+           })
+      .add(kIcu, [=] { return toText(icu::UnicodeString(true, blanks, -1).trim()); });
+  add("StrFromChrToChr", StrFromChrToChr, s, u"(", u")").add(kStd, [=] {
+    const View text = s;
+    const std::size_t first = text.find(u'(');
+    return Text16(text.substr(first, text.find(u')') - first + 1));
+  });
+  add("StrBetweenChrAndChr", StrBetweenChrAndChr, s, u"(", u")").add(kStd, [=] {
+    const View text = s;
+    const std::size_t first = text.find(u'(') + 1;
+    return Text16(text.substr(first, text.find(u')') - first));
+  });
+}
+
+void addRemovals() {
+  const BSTR colons = keep(mixText(kUnits, {u":"}));
+  const BSTR pairs = keep(mixText(kUnits, {u"--", u"---", u"-"}));
+  const BSTR digits = keep(mixText(kUnits, {u"1", u"2", u"4", u"8", u"0"}));
+
+  for (Job* job : {&add("VB_RemoveChar one unit", VB_RemoveChar, colons, u":"),
+                   &add("VB_RemoveColon", VB_RemoveColon, colons)}) {
+    job->add(kStd,
+             [=] {
+               Text16 text = colons;
+               std::erase(text, u':');
+               return text;
+             })
+        .add(kBoost, [=] { return boost::algorithm::erase_all_copy(Text16(colons), u":"); });
+  }
+  add("VB_RemoveChar two units", VB_RemoveChar, pairs, u"--");
+  add("VB_RemoveNonNumericChar", VB_RemoveNonNumericChar, digits).add(kStd, [=] {
+    Text16 text = digits;
+    std::erase_if(text, [](char16_t unit) { return unit < u'0' || unit > u'9'; });
+    return text;
+  });
+}
+
+void addSearches() {
+  const BSTR commas = keep(mixText(kUnits, {u","})), pairs = keep(mixText(kUnits, {u", "}));
+
+  add("VB_CommonChar", VB_CommonChar, commas, u";:#").add(kStd, [=] {
+    return View(commas).find_first_of(u";:#") == View::npos ? 0 : -1;
+  });
+  add("ChrCount one unit", ChrCount, commas, u",").add(kStd, [=] {
+    const View text = commas;
+    return static_cast<int32_t>(std::count(text.begin(), text.end(), u','));
+  });
+  add("ChrCount two units", ChrCount, pairs, u", ").add(kStd, [=] {
+    const View text = pairs;
+    int32_t count = 0;
+    for (std::size_t at = 0; (at = text.find(u", ", at)) != text.npos; at += 2) ++count;
+    return count;
+  });
+}
+
+void addReplacement(const char* name, BSTR text, const char16_t* pattern,
                     const char16_t* replacement) {
-  const Text sought = pattern, inserted = replacement;
-  const IcuText icuText = toIcu(text);
-  addLong(
-      name, [=] { return standard::replaceAll(text, sought, inserted); }, ViaUnits(), VB_Replace,
-      keep(text), pattern, replacement)
-      .add("Boost", [=] { return withBoost::replaceAll<Text>(text, sought, inserted); })
-      .add("ICU", [=] { return withIcu::replaceAll(icuText, pattern, replacement); });
+  add(name, VB_Replace, text, pattern, replacement)
+      .add(kStd, [=] { return replaceAll(text, pattern, replacement); })
+      .add(kBoost,
+           [=] { return boost::algorithm::replace_all_copy(Text16(text), pattern, replacement); })
+      .add(kIcu, [=] { return toText(replaceAllWithIcu(text, pattern, replacement)); });
 }
 
-void addReplacementJobs() {
-  static const Text text = mixText(kUnits, {u","});
-  static const IcuText icuText = toIcu(text);
-  static const Text comma = u",", semicolon = u";";
-  const auto replaceUnit = [] { return standard::replaceUnit(text, u',', u';'); };
-  Job& oneForOne = addReplaceToAndFro("long", text, replaceUnit());
-  oneForOne.add("std", replaceUnit)
-      .add("Boost", [] { return withBoost::replaceAll(text, comma, semicolon); })
-      .add("Abseil", [] { return withAbseil::replaceUnit(text, u',', u';'); })
-      .add("ICU", [] { return withIcu::replaceUnit(icuText, u',', u';'); });
-  addReplacement("VB_Replace growing", text, u",", u", ");
-  addReplacement("VB_Replace shrinking", mixText(kUnits, {u", "}), u", ", u",");
-  addReplacement("VB_Replace deletion", text, u",", u"");
-  addReplacement("VB_Replace two for two", mixText(kUnits, {u"\r\n"}), u"\r\n", u", ");
+void addReplacements() {
+  const Text16 commas = mixText(kUnits, {u","});
+  const BSTR s = keep(commas), fields = keep(mixText(kUnits, {u"=", u";"}));
 
-  static const Text fields = mixText(kUnits, {u"=", u";"});
-  addLong(
-      "VB_Replace2",
-      [] {
-        return standard::replaceAll(standard::replaceAll<Text>(fields, u"=", u": "), Text(u";"),
-                                    Text(u", "));
-      },
-      ViaBufferAndUnits(), VB_Replace2, keep(fields), u"=", u": ", u";", u", ")
-      .add("Boost", [] {
-        return withBoost::replaceAll<Text>(withBoost::replaceAll<Text>(fields, u"=", u": "), u";",
-                                           u", ");
-      });
+  addReplaceJob("long", commas).add(kStd, [=] {
+    Text16 text = s;
+    std::replace(text.begin(), text.end(), u',', u';');
+    return text;
+  });
+  addReplacement("VB_Replace growing", s, u",", u", ");
+  addReplacement("VB_Replace shrinking", keep(mixText(kUnits, {u", "})), u", ", u",");
+  addReplacement("VB_Replace two for two", keep(mixText(kUnits, {u"\r\n"})), u"\r\n", u", ");
+  add("VB_Replace2", VB_Replace2, fields, u"=", u": ", u";", u", ").add(kStd, [=] {
+    return replaceAll(replaceAll(fields, u"=", u": "), u";", u", ");
+  });
 }
 
-void addPhraseJobs() {
-  static const Text text = u"r" + mixText(kUnits, {u","});
-  static const Text part = mixText(kUnits / 6, {u","});
-  static const Text marked = mixText(kUnits, {u"<BR>", u"<QM>", u"<CM>"});
-  static const Text tokens[] = {u"<BR>", u"<QM>", u"<CM>"};
-  const ViaBuffer route;
-  const BSTR s = keep(text), sixth = keep(part);
-  const auto capitalise = [] {
-    Text result = text;
-    result.front() = u'R';
-    return result;
-  };
+void addPhrases() {
+  const BSTR s = keep(Text16(u"r") + mixText(kUnits, {u","})),
+             part = keep(mixText(kUnits / 6, {u","}));
+  const BSTR marked = keep(mixText(kUnits, {u"<BR>", u"<QM>", u"<CM>"}));
 
-  addLong(
-      "VB_StrConcat",
-      [] {
-        Text result;
-        result.reserve(6 * part.size());
-        return result.append(part).append(part).append(part).append(part).append(part).append(part);
-      },
-      route, VB_StrConcat, sixth, sixth, sixth, sixth, sixth, sixth);
-  addLong(
-      "VB_LocalAN", [capitalise] { return capitalise() + u" model"; }, route, VB_LocalAN, s,
-      u"Model", u"US");
-  addLong(
-      "VB_LocalAN2", [] { return Text(u"Model ") += text; }, route, VB_LocalAN2, s, u"Model", u"FR",
-      0, 0, 0);
-  addLong(
-      "VB_LowerFirst", [] { return Text(text); }, route, VB_LowerFirst, s, u"US", 0);
-  addLong("VB_UpperFirst", capitalise, route, VB_UpperFirst, s);
-  addLong(
-      "VB_SpStrSp", [] { return standard::wrap(text, u' ', u' '); }, ViaObject(), VB_SpStrSp, s);
-  addLong(
-      "VB_PStrP", [] { return standard::wrap(text, u'(', u')'); }, route, VB_PStrP, s);
-  addLong(
-      "VB_BStrB", [] { return standard::wrap(text, u'[', u']'); }, route, VB_BStrB, s);
-  addLong(
-      "VB_SingPlural", [] { return Text(text); }, ViaCopy(), VB_SingPlural, s, s, 2);
-  addLong(
-      "VB_QUVARDHTMLProcessor",
-      [] {
-        return standard::processMarkup(marked, tokens, {u'\n', u'"', u','});
-      },
-      route, VB_QUVARDHTMLProcessor, keep(marked))
-      .add("Boost", [] {
-        Text result = withBoost::replaceAll<Text>(marked, u"<BR>", u"\n");
-        boost::algorithm::replace_all(result, u"<QM>", u"\"");
-        boost::algorithm::replace_all(result, u"<CM>", u",");
-        return result;
-      });
-  constexpr auto decimals = static_cast<int32_t>(kUnits);
-  const auto zeros = [] { return Text(u"0.").append(kUnits, u'0'); };
-  addLong("Cpp_DecimalFormat", zeros, route, Cpp_DecimalFormat, decimals);
-  addLong("VB_OptimalFormat", zeros, route, VB_OptimalFormat, 0.5, decimals, 0, 0);
+  add("VB_StrConcat", VB_StrConcat, part, part, part, part, part, part).add(kStd, [=] {
+    return Text16(part).append(part).append(part).append(part).append(part).append(part);
+  });
+  add("VB_LocalAN2", VB_LocalAN2, s, u"Model", u"FR", 0, 0, 0).add(kStd, [=] {
+    return Text16(u"Model ").append(s);
+  });
+  add("VB_UpperFirst", VB_UpperFirst, s).add(kStd, [=] {
+    Text16 text = s;
+    text.front() = u'R';
+    return text;
+  });
+  add("VB_SpStrSp", VB_SpStrSp, s).add(kStd, [=] { return Text16(u" ").append(s).append(u" "); });
+  add("VB_PStrP", VB_PStrP, s).add(kStd, [=] { return Text16(u"(").append(s).append(u")"); });
+  add("VB_SingPlural", VB_SingPlural, s, s, 2).add(kStd, [=] { return Text16(s); });
+  add("VB_QUVARDHTMLProcessor", VB_QUVARDHTMLProcessor, marked).add(kStd, [=] {
+    const Text16 lines = replaceAll(marked, u"<BR>", u"\n");
+    return replaceAll(replaceAll(lines, u"<QM>", u"\""), u"<CM>", u",");
+  });
+  add("Cpp_DecimalFormat", Cpp_DecimalFormat, static_cast<int32_t>(kUnits)).add(kStd, [] {
+    return Text16(u"0.").append(kUnits, u'0');
+  });
 }
 
 }  // namespace
 
 void addLongJobs() {
-  addSliceJobs();
-  addRemovalJobs();
-  addSearchJobs();
-  addReplacementJobs();
-  addPhraseJobs();
+  addSlices();
+  addRemovals();
+  addSearches();
+  addReplacements();
+  addPhrases();
 }
 
 }  // namespace benchmarks

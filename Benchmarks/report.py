@@ -1,144 +1,144 @@
-"""Prints a table of what the benchmarks have measured, and draws a picture of it.
+"""Runs QUVARDBenchmarks several times and prints a table of the least times.
 
-usage: report.py RESULTS.json [PICTURE.svg]
+usage: report.py [--picture FILE.svg | --against OLD_PROGRAM] PROGRAM [GROUP]...
+
+The least time of many short runs hardly depends on what else the machine does. With --against, the runs
+of two copies of the program alternate, each of which loads the libraries in its own folder.
 """
 
+import argparse
 import json
 import math
 import platform
+import subprocess
 import sys
+import tempfile
 from html import escape
 
-GROUPS = {
-    "short": "Host routines on texts of 10 to 50 units",
-    "long": "Host routines on a million units, from host string to new host string",
-    "wide": "Wide routines on a million units, from a std::wstring by value to a new one",
-    "numerics": "Numeric routines",
-}
-OWN = ("ours", "floor", "transcription")
+ROUNDS = 15
+UNITS = {"ns": 1, "us": 1e3, "ms": 1e6}
 
 
-def read(path):
-    """The medians, in seconds for a call, as {group: {job: {contestant: time}}}; and the machine."""
-    with open(path, encoding="utf-8") as file:
+def run(program, groups, *options):
+    """One run: {(group, job): {contestant: nanoseconds of processor time per call}}, and the machine."""
+    with tempfile.NamedTemporaryFile() as file:
+        subprocess.run([program, f"--benchmark_out={file.name}", *options, *groups], check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         results = json.load(file)
     times = {}
-    medians = [row for row in results["benchmarks"] if row.get("aggregate_name") == "median"]
-    # They were measured in random order.
-    for row in sorted(medians, key=lambda row: row["family_index"]):
+    for row in results["benchmarks"]:
         group, job, contestant = row["run_name"].split("/")[:3]
-        seconds = row["cpu_time"] * {"ns": 1e-9, "us": 1e-6, "ms": 1e-3}[row["time_unit"]]
-        times.setdefault(group, {}).setdefault(job, {})[contestant] = seconds / row["calls"]
+        time = row["cpu_time"] * UNITS[row["time_unit"]] / row["calls"]
+        times.setdefault((group, job), {})[contestant] = time
     context = results["context"]
     return times, f"{processor()}, {context['num_cpus']} cores, {context['compiler']}"
+
+
+def measure(programs, groups, *options):
+    """The least times of all runs for each program, and the machine."""
+    least = [{} for _ in programs]
+    for number in range(1, ROUNDS + 1):
+        print(f"\rrun {number} of {ROUNDS}", end="", file=sys.stderr, flush=True)
+        for times, program in zip(least, programs):
+            found, machine = run(program, groups, *options)
+            for job, contestants in found.items():
+                best = times.setdefault(job, {})
+                for name, time in contestants.items():
+                    best[name] = min(time, best.get(name, time))
+    print(file=sys.stderr)
+    return least, machine
 
 
 def processor():
     try:
         with open("/proc/cpuinfo", encoding="utf-8") as file:
-            for line in file:
-                if line.startswith("model name"):
-                    return " ".join(line.split(":")[1].split())
-    except OSError:
-        pass
-    return platform.processor() or platform.machine()
+            return next(line.split(":")[1].strip() for line in file if line.startswith("model name"))
+    except (OSError, StopIteration):
+        return platform.processor() or platform.machine()
 
 
-def show_time(seconds):
-    for unit, size in (("ms", 1e-3), ("us", 1e-6)):
-        if seconds >= size:
-            return f"{seconds / size:.3g} {unit}"
-    return f"{seconds / 1e-9:.3g} ns"
+def show_time(time):
+    unit = next((unit for unit in ("ms", "us") if time >= UNITS[unit]), "ns")
+    return f"{time / UNITS[unit]:.3g} {unit}"
 
 
-def fastest_peer(contestants):
-    peers = {name: time for name, time in contestants.items() if name not in OWN}
-    return min(peers, key=peers.get) if peers else None
+def print_times(times):
+    last = None
+    for (group, job), contestants in times.items():
+        if group != last:
+            ratio = "nanoseconds per code unit, by size" if group == "growth" else "ratio to others"
+            print(f"\n{group:42}{ratio}\n")
+            last = group
+        if group == "growth":
+            print(f"  {job:38}" + "".join(f"  {size:>7}: {time:5.2f}" for size, time in contestants.items()))
+        else:
+            ours, *others = contestants.items()
+            ratios = (f"  {name} {ours[1] / time:.2f}" for name, time in others)
+            print(f"  {job:30}{show_time(ours[1]):>8}" + "".join(ratios))
 
 
-def ratio(contestants, other):
-    """Our time against another's; None without one."""
-    return contestants["ours"] / contestants[other] if other in contestants else None
-
-
-def show_ratio(value):
-    return "" if value is None else f"{value:.2f}"
-
-
-def print_tables(times):
-    for group, title in GROUPS.items():
-        if group not in times:
-            continue
-        print(f"\n{title}\n")
-        print(f"  {'':32}{'time':>10}{'to floor':>10}{'to peer':>10}  {'peer':10}{'to steps':>9}")
-        for job, contestants in times[group].items():
-            peer = fastest_peer(contestants)
-            print(
-                f"  {job:32}{show_time(contestants['ours']):>10}"
-                f"{show_ratio(ratio(contestants, 'floor')):>10}"
-                f"{show_ratio(ratio(contestants, peer)):>10}  {peer or '':10}"
-                f"{show_ratio(ratio(contestants, 'transcription')):>9}".rstrip()
-            )
-    if "growth" in times:
-        rows = {}
-        for job, contestants in times["growth"].items():
-            name, size = job.split(" @")
-            rows.setdefault(name, {})[int(size)] = contestants["ours"]
-        print("\nHost routines on their worst texts: nanoseconds for a unit\n")
-        print(f"  {'units':32}" + "".join(f"{size:>10}" for size in next(iter(rows.values()))))
-        for name, sizes in rows.items():
-            print(f"  {name:32}" + "".join(f"{time / 1e-9:>10.2f}" for time in sizes.values()))
+def print_comparison(old, new):
+    print(f"{'nanoseconds':40}{'old':>12}{'new':>12}{'new/old':>10}{'old/floor':>12}{'new/floor':>12}")
+    for job, contestants in new.items():
+        for name in (name for name in contestants if name != "floor"):
+            before, after = old[job][name], contestants[name]
+            title = "/".join(job) if name == "ours" else "/".join((*job, name))
+            floors = [times[job].get("floor", math.nan) for times in (old, new)]
+            print(f"{title:40}{before:12.1f}{after:12.1f}{after / before:10.3f}"
+                  f"{before / floors[0]:12.2f}{after / floors[1]:12.2f}")
 
 
 def draw(times, machine):
-    """Bars of ratios on a logarithmic scale, to the left of 1 where ours is the faster one."""
-    columns = []
-    for group, title, other in (
-        ("short", "10 to 50 units: time against the floor", lambda job: "floor"),
-        ("long", "a million units: time against the fastest peer", fastest_peer),
-        ("numerics", "numerics: time against the plain steps", lambda job: "transcription"),
-    ):
-        bars = [(name, ratio(job, other(job))) for name, job in times[group].items()]
-        columns.append((title, bars))
-    width, row, top, octave, one = 450, 16, 70, 20, 310
-    height = top + row * max(len(bars) for _, bars in columns) + 40
-    out = [
-        f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width * len(columns)} {height}"'
-        ' font-family="sans-serif" font-size="11">',
-        '<rect width="100%" height="100%" fill="#fff"/>',
-    ]
-    for number, (title, bars) in enumerate(columns):
-        middle = number * width + one
-        bottom = top + row * len(bars)
+    """Bars of ratios on a logarithmic scale, to the left of 1 where ours is faster."""
+    columns = (
+        ("10 to 50 code units: time / floor", "short", ("floor",)),
+        ("a million code units: time / floor", "long", ("floor",)),
+        ("a million code units: time / fastest peer", "long", ("std", "Boost", "ICU")),
+    )
+    width, row, top, octave, one = 450, 16, 70, 30, 310
+    height = top + row * max(sum(group == column[1] for group, _ in times) for column in columns) + 40
+    out = [f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width * len(columns)} {height}"'
+           ' font-family="sans-serif" font-size="11">', '<rect width="100%" height="100%" fill="#fff"/>']
+    for number, (title, group, others) in enumerate(columns):
+        bars = [(job, contestants["ours"] / min(contestants[name] for name in others if name in contestants))
+                for (its, job), contestants in times.items()
+                if its == group and any(name in contestants for name in others)]
+        middle, bottom = number * width + one, top + row * len(bars)
         out.append(f'<text x="{number * width + 12}" y="28" font-size="14">{escape(title)}</text>')
-        for power, mark in ((-4, "1/16"), (-2, "1/4"), (0, "1"), (2, "4"), (4, "16")):
+        for power, mark in ((-2, "1/4"), (-1, "1/2"), (0, "1"), (1, "2"), (2, "4")):
             x = middle + power * octave
-            colour = "#444" if power == 0 else "#ddd"
-            out.append(f'<path d="M{x} {top - 6}V{bottom}" stroke="{colour}"/>')
+            out.append(f'<path d="M{x} {top - 6}V{bottom}" stroke="{"#ddd" if power else "#444"}"/>')
             out.append(f'<text x="{x}" y="{top - 12}" text-anchor="middle">{mark}</text>')
-        for i, (name, value) in enumerate(bars):
-            y = top + row * i
-            length = octave * math.log2(value)
-            colour = "#3b7d4f" if value <= 1 else "#4a6fa5"
+        for y, (name, value) in enumerate(bars):
+            y, length = top + row * y, octave * math.log2(value)
             left, right = middle + min(length, 0), middle + max(length, 0)
             out.append(f'<text x="{number * width + 200}" y="{y + 10}" text-anchor="end">{escape(name)}</text>')
-            out.append(
-                f'<rect x="{left:.1f}" y="{y + 1}" width="{right - left:.1f}" height="{row - 5}" fill="{colour}"/>'
-            )
+            out.append(f'<rect x="{left:.1f}" y="{y + 1}" width="{right - left:.1f}" height="{row - 5}"'
+                       f' fill="{"#3b7d4f" if value <= 1 else "#4a6fa5"}"/>')
             out.append(f'<text x="{right + 4:.1f}" y="{y + 10}">{value:.2f}</text>')
-    out.append(f'<text x="12" y="{height - 14}">Medians. {escape(machine)}</text>')
-    out.append("</svg>")
+    out.append(f'<text x="12" y="{height - 14}">Least times of {ROUNDS} runs. {escape(machine)}</text></svg>')
     return "\n".join(out) + "\n"
 
 
-def main(arguments):
-    times, machine = read(arguments[0])
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("program")
+    parser.add_argument("--picture")
+    parser.add_argument("--against")
+    parser.add_argument("groups", nargs="*")
+    arguments = parser.parse_args()
+    if arguments.against:
+        only_ours = "--benchmark_filter=/(ours|floor|[0-9]+)(/|$)"
+        (old, new), _ = measure([arguments.against, arguments.program], arguments.groups, only_ours)
+        print_comparison(old, new)
+        return
+    (times,), machine = measure([arguments.program], arguments.groups)
     print(machine)
-    print_tables(times)
-    if len(arguments) > 1:
-        with open(arguments[1], "w", encoding="utf-8") as file:
+    print_times(times)
+    if arguments.picture:
+        with open(arguments.picture, "w", encoding="utf-8") as file:
             file.write(draw(times, machine))
 
 
 if __name__ == "__main__":
-    main(sys.argv[1:])
+    main()

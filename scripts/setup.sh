@@ -94,9 +94,8 @@ bits_needs=(
 )
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
-  absl/algorithm/container.h:libabsl-dev:abseil
   boost/algorithm/string.hpp:libboost-dev:boost
-  gsl/gsl_sf.h:libgsl-dev:gsl
+  gtest/gtest.h:libgtest-dev:googletest
   unicode/unistr.h:libicu-dev:icu4c
 )
 report_needs=(
@@ -104,6 +103,7 @@ report_needs=(
 )
 accuracy_needs=(
   mpfr.h:libmpfr-dev:mpfr
+  boost/multiprecision/mpfr.hpp:libboost-dev:boost
 )
 coverage_needs=(
   gcov:gcc:gcc
@@ -124,6 +124,12 @@ say() { printf '%s\n' "$*" >&2; }
 fail() {
   printf '%s\n' "$@" >&2
   exit 1
+}
+
+# bad_argument TEXT: says what is wrong with the arguments, and ends.
+bad_argument() {
+  say "scripts/${0##*/}: $1 (see scripts/${0##*/} --help)"
+  exit 2
 }
 
 # Runs a command as root.
