@@ -22,6 +22,29 @@ target_compile_options(QUVARDCompileOptions INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wmissing-declarations
   $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 
+# Hardening of the libraries. Not every processor has each flag, and clang for macOS warns that it ignores
+# -fstack-clash-protection. A definition of _FORTIFY_SOURCE by the distribution's compiler or by the user
+# stays; it needs optimisation, so debug builds, and with them the sanitizers, are without it.
+include(CheckCXXCompilerFlag)
+include(CheckCXXSymbolExists)
+set(hardening -fstack-protector-strong)
+if(NOT APPLE)
+  list(APPEND hardening -fstack-clash-protection -fcf-protection)
+endif()
+foreach(flag IN LISTS hardening)
+  string(MAKE_C_IDENTIFIER "QUVARD${flag}" accepted)
+  check_cxx_compiler_flag(${flag} ${accepted})
+  if(NOT ${accepted})
+    list(REMOVE_ITEM hardening ${flag})
+  endif()
+endforeach()
+set(CMAKE_REQUIRED_FLAGS -O2)
+check_cxx_symbol_exists(_FORTIFY_SOURCE "" QUVARD_FORTIFIED)
+unset(CMAKE_REQUIRED_FLAGS)
+if(NOT QUVARD_FORTIFIED)
+  list(APPEND hardening $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
+endif()
+
 # A shared library NAME.dll that exports the names in its lists and nothing else.
 #
 #   quvard_shared_library(NAME EXPORTS list...)
@@ -38,6 +61,7 @@ function(quvard_shared_library name)
   endforeach()
 
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:QUVARDCompileOptions>)
+  target_compile_options(${name} PRIVATE ${hardening})
   set_target_properties(${name} PROPERTIES
     PREFIX "" SUFFIX ".dll" DEBUG_POSTFIX "")
 
@@ -55,7 +79,8 @@ function(quvard_shared_library name)
     # the library, as they do on macOS anyway.
     target_compile_options(${name} PRIVATE -fno-semantic-interposition)
     target_link_options(${name} PRIVATE
-      "LINKER:--version-script,${script}" "LINKER:-Bsymbolic-functions")
+      "LINKER:--version-script,${script}" "LINKER:-Bsymbolic-functions"
+      "LINKER:-z,relro" "LINKER:-z,now" "LINKER:-z,noexecstack" "LINKER:-z,text")
   endif()
   file(CONFIGURE OUTPUT "${script}" CONTENT "${content}" @ONLY)
   set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${script}")
