@@ -45,6 +45,19 @@ if(NOT QUVARD_FORTIFIED)
   list(APPEND hardening $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
 endif()
 
+# The C++ standard library, on which the names of C++ linkage and the type std::wstring depend. A header
+# tells the library's users.
+check_cxx_symbol_exists(_LIBCPP_VERSION "string" QUVARDBS1C_ON_LIBCPP)
+set(standardLibrary libstdc++)
+set(otherLibrary libc++)
+set(isOtherLibrary "defined(_LIBCPP_VERSION)")
+if(QUVARDBS1C_ON_LIBCPP)
+  set(standardLibrary libc++)
+  set(otherLibrary libstdc++)
+  set(isOtherLibrary "!defined(_LIBCPP_VERSION)")
+endif()
+configure_file(Sources/Shared/QUVARDCR1C/QUVARDStandardLibrary.h.in include/QUVARDStandardLibrary.h @ONLY)
+
 # A shared library NAME.dll that exports the names in its lists and nothing else.
 #
 #   quvard_shared_library(NAME EXPORTS list...)
@@ -62,6 +75,9 @@ function(quvard_shared_library name)
 
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:QUVARDCompileOptions>)
   target_compile_options(${name} PRIVATE ${hardening})
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   set_target_properties(${name} PROPERTIES
     PREFIX "" SUFFIX ".dll" DEBUG_POSTFIX "")
 

@@ -12,7 +12,8 @@ set(ways
   pkg_config_moved
   pkg_config_blanks
   pkg_check_modules
-  load)
+  load
+  other_library)
 foreach(way IN LISTS ways)
   separate_arguments(arguments UNIX_COMMAND "${way}")
   string(REPLACE " " "." name "Consumer.${way}")
@@ -20,6 +21,6 @@ foreach(way IN LISTS ways)
     COMMAND bash "${CMAKE_CURRENT_SOURCE_DIR}/consumer/consumers.sh" ${arguments})
   # One at a time: they share a build tree.
   set_tests_properties("${name}" PROPERTIES
-    LABELS consumer TIMEOUT 600 RESOURCE_LOCK consumers ENVIRONMENT
-    "SOURCES=${PROJECT_SOURCE_DIR};BUILT=${PROJECT_BINARY_DIR};WORK=${CMAKE_CURRENT_BINARY_DIR}/consumer;CC=${CMAKE_C_COMPILER};CXX=${CMAKE_CXX_COMPILER};CFLAGS=${CMAKE_C_FLAGS};CXXFLAGS=${CMAKE_CXX_FLAGS}")
+    LABELS consumer TIMEOUT 600 RESOURCE_LOCK consumers SKIP_RETURN_CODE 77 ENVIRONMENT
+    "STANDARD_LIBRARY=${standardLibrary};OTHER_LIBRARY=${otherLibrary};SOURCES=${PROJECT_SOURCE_DIR};BUILT=${PROJECT_BINARY_DIR};WORK=${CMAKE_CURRENT_BINARY_DIR}/consumer;CC=${CMAKE_C_COMPILER};CXX=${CMAKE_CXX_COMPILER};CFLAGS=${CMAKE_C_FLAGS};CXXFLAGS=${CMAKE_CXX_FLAGS}")
 endforeach()

@@ -7,7 +7,8 @@
 # the package files or from a line that the README gives.
 #
 # From the environment: SOURCES and BUILT, the project's source and build folders; WORK, a folder
-# for build trees that stay; CC, CXX, CFLAGS and CXXFLAGS, which CMake reads by itself.
+# for build trees that stay; CC, CXX, CFLAGS and CXXFLAGS, which CMake reads by itself; STANDARD_LIBRARY,
+# the C++ standard library that the build has, and OTHER_LIBRARY.
 set -euo pipefail
 
 consumer=$SOURCES/Tests/consumer
@@ -152,6 +153,40 @@ load() {
     ln -sf -- "$library/QUVARDBS1C.dll" "$scratch/links/"
     expect_right "$host" "$scratch/links/QUVARDBS1C.dll"
   done
+}
+
+# build WAY OPTIONS: the C++ program, compiled and linked with options of its own.
+build() {
+  configure "$scratch/$1" "$1" CXX -D CONSUMER_OPTIONS="$2" -D CMAKE_PREFIX_PATH="$prefix" \
+    -D CMAKE_UNITY_BUILD=ON
+  quietly cmake --build "$scratch/$1"
+}
+
+# refused COMMAND...: fails with a message that names both C++ standard libraries.
+refused() {
+  local output message="built with $STANDARD_LIBRARY and this program uses $OTHER_LIBRARY"
+  ! output=$("$@" 2>&1) || fail "$*" "  expected an error: $message"
+  [[ $output == *"$message"* ]] || fail "$*" "  expected: $message" "  printed:  $output"
+}
+
+# A program with another C++ standard library than the libraries' is refused. Without the wide routines
+# it runs.
+other_library() {
+  local way other="-stdlib=$OTHER_LIBRARY" no_wide=-DQUVARDBS1C_NO_WIDE_ROUTINES flags=${CXXFLAGS:-}
+  export CXX=clang++
+  # shellcheck disable=SC2086
+  echo 'int main() {}' | "$CXX" $flags "$other" -include string -o "$scratch/empty" -x c++ - || {
+    echo "not tried: $CXX has no $OTHER_LIBRARY"
+    exit 77
+  }
+  quietly cmake --install "$BUILT" --prefix "$prefix"
+  for way in find_package add_subdirectory; do
+    refused build "$way" "$other"
+    build "$way" "$other;$no_wide"
+    expect_right "$scratch/$way/consumer-cxx"
+  done
+  CXXFLAGS="$flags $other" refused compile_by_pkg_config "$(libdir_of "$prefix")"
+  CXXFLAGS="$flags $other $no_wide" compile_by_pkg_config "$(libdir_of "$prefix")"
 }
 
 "$@"

@@ -6,7 +6,8 @@
 /// - **Wide routines** take and give `std::wstring` by value. A first text that the caller moves in
 ///   becomes the result without a copy, unless the result is longer than it (SpStrSp(), PStrP(),
 ///   StrConcat()) or comes from Replace() or LocalAN(). C++ only, with the C++ standard library that
-///   this library was built with.
+///   this library was built with. A program that defines `QUVARDBS1C_NO_WIDE_ROUTINES` before it
+///   includes this header is without them, and may use any C++ standard library.
 /// - **Host routines** take and give host strings (`BSTR`) and scalars: those named `VB_...`, the
 ///   five `ChrCount`, `StrFromTo`, `StrBetween`, `StrFromChrToChr`, `StrBetweenChrAndChr`, and
 ///   `Cpp_DecimalFormat`. C and C++.
@@ -39,6 +40,8 @@
 
 #include <stdint.h>
 
+#include "QUVARDStandardLibrary.h"
+
 /// The version of this header. A later version of the library runs every program that was built with
 /// an earlier header.
 #define QUVARDBS1C_VERSION "1.1.0"
@@ -50,10 +53,6 @@
 #define QUVARDBS1C_API __attribute__((visibility("default")))
 
 #ifdef __cplusplus
-#include <string>
-#if defined(_GLIBCXX_USE_CXX11_ABI) && !_GLIBCXX_USE_CXX11_ABI
-#error "QUVARDBS1C takes std::wstring of the usual ABI: build without _GLIBCXX_USE_CXX11_ABI=0"
-#endif
 static_assert(sizeof(wchar_t) == 4, "QUVARDBS1C takes wide units of 32 bits");
 /// A host string: one pointer to the first 16-bit unit of a zero-terminated run. Null is legal.
 typedef char16_t* BSTR;
@@ -95,7 +94,7 @@ extern "C" {
 /// QUVARDCR1C.h.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// The text of a host string, up to its first zero unit.
 ///
 /// @param handle  host string; null gives the empty string
@@ -110,7 +109,7 @@ QUVARDBS1C_API std::wstring convToWstring(BSTR handle);
 /// The ends of a text: taken, joined to others, freed of blanks; and all of it in lower case.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// The first @p n units of @p s.
 ///
 /// @param n  number of units; above the length of @p s, or negative: all of @p s
@@ -210,7 +209,7 @@ QUVARDBS1C_API BSTR VB_StrLRTrim(BSTR s);
 /// What is removed leaves no gap, and what stays keeps its order.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// @p s after a removal that goes on until the whole of @p chars occurs nowhere: each step takes
 /// the first unit out of the leftmost occurrence. With a @p chars of one unit, every such unit
 /// goes.
@@ -270,7 +269,7 @@ QUVARDBS1C_API BSTR VB_RemoveColon(BSTR s);
 /// Whether units of a text occur in another, and how often a pattern does.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 // C++ linkage: the symbol encodes the types of the arguments, as do those of Replace() and LCD2().
 extern "C++" {
 /// Whether @p text and @p chars have a unit in common.
@@ -316,7 +315,7 @@ QUVARDBS1C_API int32_t ChrCount(BSTR text, BSTR pattern);
 /// two units or more gives the empty string. An empty delimiter is found where its search begins.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// What is between the first @p opening and the first @p closing after it, both left out. The slice
 /// starts one unit after the start of @p opening, also if that is empty, and @p closing is searched
 /// from there.
@@ -372,7 +371,7 @@ QUVARDBS1C_API BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing);
 /// the arguments and the result; for VB_Replace2(), also of its intermediate text.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 extern "C++" {
 /// @p text with every occurrence of @p pattern replaced by @p replacement.
 ///
@@ -427,7 +426,7 @@ QUVARDBS1C_API BSTR VB_Replace2(BSTR text, BSTR pattern1, BSTR replacement1, BST
 /// whole and with case.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// The phrase of an adjective and a noun in the word order of a language.
 ///
 /// | Language           | Phrase                                             |
@@ -499,7 +498,7 @@ QUVARDBS1C_API BSTR VB_UpperFirst(BSTR text);
 /// A text between two characters, and the form of a word that goes with a count.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// A blank, @p text, a blank.
 ///
 /// @throws std::bad_alloc
@@ -553,7 +552,7 @@ QUVARDBS1C_API BSTR VB_SingPlural(BSTR singular, BSTR plural, int32_t count);
 /// Three characters that a text may carry as tokens.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// @p text with its markup tokens turned into the characters that they mean: `<BR>` into a
 /// line feed, `<QM>` into a double quotation mark, `<CM>` into a comma. Case counts.
 ///
@@ -579,7 +578,7 @@ QUVARDBS1C_API BSTR VB_QUVARDHTMLProcessor(BSTR text);
 /// the exponent's sign only when it is negative, and always), followed by the exponent's digits.
 /// @{
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 /// The pattern with a number of decimals.
 ///
 /// @param decimals  0 or below: the pattern "0"; there is no upper limit but memory

@@ -19,11 +19,12 @@
 
 #include <stddef.h>
 
+#include "QUVARDStandardLibrary.h"
+
 /// Marks an exported service.
 #define QUVARDCR1C_API __attribute__((visibility("default")))
 
 #ifdef __cplusplus
-#include <string>
 /// A host string: one pointer to the first 16-bit unit of a zero-terminated run. Null is legal.
 typedef char16_t* BSTR;
 /// One unit of a host string.
@@ -77,10 +78,11 @@ QUVARDCR1C_API wchar_t* CW162W32(BSTR handle);
 /// @throws std::bad_alloc
 QUVARDCR1C_API BSTR SysAllocString2(const wchar_t* units);
 
-#ifdef __cplusplus
+#ifdef QUVARDBS1C_WIDE_ROUTINES
 #ifdef __clang__
 #pragma clang diagnostic push
-// C linkage fixes the symbol's name; only C++ callers see these two.
+// C linkage fixes the symbol's name. Only C++ callers see these two, and those that define
+// QUVARDBS1C_NO_WIDE_ROUTINES do not.
 #pragma clang diagnostic ignored "-Wreturn-type-c-linkage"
 #endif
 
@@ -99,6 +101,9 @@ QUVARDCR1C_API BSTR convertWstringToBSTR(std::wstring text);
 #ifdef __clang__
 #pragma clang diagnostic pop
 #endif
+#endif
+
+#ifdef __cplusplus
 }
 #endif
 
