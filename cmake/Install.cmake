@@ -28,8 +28,6 @@ set(linkFlags "-L\${libdir} -l:QUVARDBS1C.dll -l:QUVARDCR1C.dll --for-linker=-rp
 if(APPLE)
   set(linkFlags "\${libdir}/QUVARDBS1C.dll \${libdir}/QUVARDCR1C.dll -Wl,-rpath,\${libdir}")
 endif()
-get_target_property(buildRunPath QUVARDBS1C INSTALL_RPATH)
-list(GET buildRunPath -1 buildRunPath)
 configure_file(cmake/InstallPaths.cmake.in InstallPaths.cmake @ONLY)
 install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/InstallPaths.cmake")
 
