@@ -11,6 +11,13 @@ install(FILES
 install(FILES Hosts/VisualBasic/QUVARDBS1C.vb Hosts/VisualBasic/QUVARDBS1C.bas
   DESTINATION "${CMAKE_INSTALL_DATADIR}/QUVARDBS1C")
 
+# Links between the pages lead to the same places as in the sources.
+set(docDir "${CMAKE_INSTALL_DATAROOTDIR}/doc/quvardbs1c")
+install(FILES README.md CHANGELOG.md SECURITY.md DESTINATION "${docDir}")
+install(FILES COPYRIGHT DESTINATION "${docDir}" RENAME copyright)
+install(DIRECTORY docs Examples DESTINATION "${docDir}"
+  FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.h" PATTERN "*.cpp" PATTERN doxygen EXCLUDE)
+
 set(packageDir "${CMAKE_INSTALL_LIBDIR}/cmake/QUVARDBS1C")
 install(EXPORT QUVARDBS1CTargets NAMESPACE QUVARDBS1C:: FILE QUVARDBS1CConfig.cmake
   DESTINATION "${packageDir}")
@@ -33,10 +40,40 @@ install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/InstallPaths.cmake")
 
 # A parent project makes packages of its own.
 if(PROJECT_IS_TOP_LEVEL)
+  # The section of the newest version, in Debian's form; in packages alone.
+  file(READ CHANGELOG.md changes)
+  string(REGEX MATCH "\n## [^#]*" changes "${changes}")
+  string(REGEX REPLACE "\n## [^\n]*" "" changes "${changes}")
+  string(REGEX REPLACE "\n([^\n])" "\n  \\1" changes "${changes}")
+  file(TIMESTAMP CHANGELOG.md date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+  set(maintainer "The QUVARDBS1C developers <maintainers@users.noreply.invalid>")
+  set(changelog "${CMAKE_CURRENT_BINARY_DIR}/changelog")
+  file(WRITE "${changelog}"
+    "quvardbs1c (${PROJECT_VERSION}) unstable; urgency=medium\n${changes} -- ${maintainer}  ${date}\n")
+  execute_process(COMMAND gzip -9nf "${changelog}")
+  install(FILES "${changelog}.gz" DESTINATION "${docDir}" COMPONENT packages EXCLUDE_FROM_ALL)
+  install(FILES cmake/lintian-overrides DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides"
+    RENAME quvardbs1c COMPONENT packages EXCLUDE_FROM_ALL)
+
   set(CPACK_GENERATOR TGZ DEB)
+  set(CPACK_INSTALL_CMAKE_PROJECTS
+    "${CMAKE_BINARY_DIR};${PROJECT_NAME};ALL;/;${CMAKE_BINARY_DIR};${PROJECT_NAME};packages;/")
+  # Folders are made with the umask of the build, and then get these modes. (Files have modes of their own;
+  # CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS does not undo a umask of 077.)
+  set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_BINARY_DIR}/PackageModes.cmake")
+  file(WRITE "${CPACK_PRE_BUILD_SCRIPTS}" [[
+file(CHMOD_RECURSE "${CPACK_TEMPORARY_INSTALL_DIRECTORY}" DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+]])
   set(CPACK_PACKAGE_NAME quvardbs1c)
   set(CPACK_PACKAGE_VENDOR "The QUVARDBS1C developers")
-  set(CPACK_PACKAGE_CONTACT "The QUVARDBS1C developers <maintainers@users.noreply.invalid>")
+  set(CPACK_PACKAGE_CONTACT "${maintainer}")
+  set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "base library of a statistical analysis product")
+  set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Routines without state, for macro code by host strings and for C and C++:
+text, report phrases in ten languages, patterns for numbers and scalar
+numerics. Headers, package files for CMake and pkg-config, declarations for
+Visual Basic and the documentation are in the package.")
+  set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
   set(CPACK_PACKAGE_FILE_NAME
     "quvardbs1c-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}")
   set(CPACK_PACKAGE_CHECKSUM SHA256)

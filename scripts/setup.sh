@@ -116,6 +116,7 @@ package_needs=(
   "${build_needs[@]}"
   dpkg-shlibdeps:dpkg-dev:dpkg
   debootstrap:debootstrap:debootstrap
+  lintian:lintian:-
 )
 
 say() { printf '%s\n' "$*" >&2; }
