@@ -1,37 +1,45 @@
-// What is fuzzed. Each check draws a call, compares it with the plain steps, and tells what differs.
+// What is fuzzed: calls with random arguments, compared with the references.
 #ifndef TESTS_FUZZ_CHECKS_H
 #define TESTS_FUZZ_CHECKS_H
 
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
 
 #include "support/Expectations.h"
 #include "support/Random.h"
 #include "support/Stepwise.h"
 
-testing::AssertionResult checkHostRoutine(Random& random);
-testing::AssertionResult checkWideRoutine(Random& random);
-testing::AssertionResult checkFormat(Random& random);
-testing::AssertionResult checkNumeric(Random& random);
-testing::AssertionResult checkSequence(Random& random);
+// Draws the arguments of a routine, calls it and tells what differs.
+struct Check {
+  std::string routine;
+  std::function<testing::AssertionResult(Random&)> run;
+};
+using Checks = std::vector<Check>;
+
+// The checks of each fuzz target.
+const Checks& checksOfHostRoutines();
+const Checks& checksOfWideRoutines();
+const Checks& checksOfFormats();
+const Checks& checksOfNumerics();
+const Checks& checksOfSequences();
+
+// One of them.
+inline testing::AssertionResult checkAny(const Checks& checks, Random& random) {
+  return checks[random.below(checks.size())].run(random);
+}
 
 // Both forms of SetFormat, on an array of 8.
 testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t digitsOverride);
 
-// Tells a call before it is made, if the environment has QUVARD_CALLS: a call that a sanitizer ends
-// has no other way to.
-inline void announce(const auto& call) {
-  static const bool isAskedFor = std::getenv("QUVARD_CALLS") != nullptr;
-  if (isAskedFor) std::fprintf(stderr, "%s\n", call().c_str());
-}
-
-// If the number in `choice` has come down to 0, compares a routine with its reference.
+// An element of a list of checks, which compares a routine with its reference. The file has a
+// function drawArguments(random) and the names of what it returns, ARGUMENTS.
 #define CHECK(routine, ...) CHECK_GIVES(routine, stepwise::routine(__VA_ARGS__), __VA_ARGS__)
-#define CHECK_GIVES(routine, expected, ...)                         \
-  if (choice-- == 0)                                                \
-  return announce([&] { return showCall(#routine, __VA_ARGS__); }), \
-         GIVES(routine, expected, __VA_ARGS__)
+#define CHECK_GIVES(routine, expected, ...)                     \
+  {                                                             \
+#routine, [](Random& random) {                                \
+      const auto& [ARGUMENTS] = drawArguments(random);            \
+      return GIVES(routine, expected, __VA_ARGS__);               \
+    } \
+  }
 
 // A part of a text: units, words that mean something, or units of another text.
 inline Text drawPart(Random& random, const std::vector<Text>& others) {

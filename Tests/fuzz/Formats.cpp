@@ -5,14 +5,15 @@ testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t d
   const int32_t used = digitsOverride == -1 ? digits : digitsOverride;
   const Text pattern = stepwise::DecimalFormat(used < 1 ? 0 : used - 1);
   const auto call = [&] { return showCall("SetFormat", count, digits, digitsOverride); };
-  announce(call);
   Texts wide(kSize, L"stays"), host, expectedWide = wide, expectedHost(kSize, kNullHandle);
   for (Texts* const expected : {&expectedWide, &expectedHost}) {
     std::fill_n(expected->begin(), std::min<int32_t>(count, kSize), pattern);
   }
-  SetFormat(wide.data(), count, digits, digitsOverride);
   BSTR handles[kSize] = {};
-  VB_SetFormat(handles, count, digits, digitsOverride);
+  named(call, [&] {
+    SetFormat(wide.data(), count, digits, digitsOverride);
+    VB_SetFormat(handles, count, digits, digitsOverride);
+  });
   for (const BSTR handle : handles) host.push_back(take(handle));
   if (wide == expectedWide && host == expectedHost) return testing::AssertionSuccess();
   return testing::AssertionFailure()
@@ -21,13 +22,30 @@ testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t d
          << testing::PrintToString(std::pair(expectedWide, expectedHost));
 }
 
-testing::AssertionResult checkFormat(Random& random) {
-  std::size_t choice = random.below(4);
-  const int32_t decimals = drawDecimals(random), other = drawDecimals(random);
-  const double value = drawDouble(random);
-  const HostBool useExponent = drawFlag(random), keepDecimals = drawFlag(random);
-  CHECK(DecimalFormat, decimals);
-  CHECK(OutputFormat, value);
-  CHECK(OptimalFormat, value, decimals, useExponent, keepDecimals);
-  return checkFormatsOf(std::min(drawInteger(random), 8), decimals, other);
+namespace {
+
+struct Arguments {
+  int32_t decimals, other;
+  double value;
+  HostBool useExponent, keepDecimals;
+};
+#define ARGUMENTS decimals, other, value, useExponent, keepDecimals
+
+Arguments drawArguments(Random& random) {
+  return {drawDecimals(random), drawDecimals(random), drawDouble(random), drawFlag(random),
+          drawFlag(random)};
+}
+
+}  // namespace
+
+const Checks& checksOfFormats() {
+  static const Checks checks{CHECK(DecimalFormat, decimals),
+                             CHECK(OutputFormat, value),
+                             CHECK(OptimalFormat, value, decimals, useExponent, keepDecimals),
+                             {"SetFormat", [](Random& random) {
+                                const auto& [ARGUMENTS] = drawArguments(random);
+                                return checkFormatsOf(std::min(drawInteger(random), 8), decimals,
+                                                      other);
+                              }}};
+  return checks;
 }

@@ -34,12 +34,9 @@ Argument draw(Random& random, std::list<Owner>& owners, const std::vector<Argume
   return {&owners.emplace_back(drawText(random, texts))};
 }
 
-}  // namespace
+Numbers numbers;
 
-testing::AssertionResult checkHostRoutine(Random& random) {
-  static Numbers numbers;
-  static const std::vector<HostRoutine> routines = hostRoutines(numbers);
-  const HostRoutine& routine = routines[random.below(routines.size())];
+testing::AssertionResult checkRoutine(const HostRoutine& routine, Random& random) {
   numbers = {drawInteger(random), drawInteger(random), drawDecimals(random), drawFlag(random),
              drawFlag(random),    drawFlag(random),    drawDouble(random)};
   std::list<Owner> owners;
@@ -54,11 +51,8 @@ testing::AssertionResult checkHostRoutine(Random& random) {
     starts.append(" ").append(std::to_string(argument.start));
   }
   const auto call = [&] {
-    return routine.show(texts) + ", from these units of other texts on:" + starts +
-           showCall(", with the numbers ", numbers.from, numbers.to, numbers.decimals,
-                    numbers.flag1, numbers.flag2, numbers.flag3, numbers.value);
+    return routine.show(texts) + ", from these units of other texts on:" + starts;
   };
-  announce(call);
   const Text expected = routine.expected(texts);
   auto result = isSame(routine.call(handles.data()), expected, call);
   if (routine.worksInPlace(texts)) {
@@ -69,4 +63,18 @@ testing::AssertionResult checkHostRoutine(Random& random) {
     result = isSame(owner.handle.text(), owner.text, [&] { return "an argument of " + call(); });
   }
   return result;
+}
+
+}  // namespace
+
+const Checks& checksOfHostRoutines() {
+  static const Checks checks = [] {
+    Checks all;
+    for (const HostRoutine& routine : hostRoutines(numbers)) {
+      all.push_back(
+          {routine.name, [routine](Random& random) { return checkRoutine(routine, random); }});
+    }
+    return all;
+  }();
+  return checks;
 }

@@ -35,31 +35,58 @@ testing::AssertionResult checkAliases(Random& random, const std::string& name, a
          << show(expectedStatus, separate);
 }
 
+struct Arguments {
+  double a, b, c, y1, y2, y3;
+  int32_t m, n;
+  HostBool forward;
+  double near, integral;
+};
+#define ARGUMENTS a, b, c, y1, y2, y3, m, n, forward, near, integral
+
+Arguments drawArguments(Random& random) {
+  const double b = drawDouble(random);
+  return {drawDouble(random),
+          b,
+          drawDouble(random),
+          drawDouble(random),
+          drawDouble(random),
+          drawDouble(random),
+          drawInteger(random),
+          drawInteger(random),
+          drawFlag(random),
+          stepwise::toInt32(b) + random.between(-2, 90),
+          static_cast<double>(random.below(1030))};
+}
+
+testing::AssertionResult checkLinear(Random& random) {
+  const Arguments v = drawArguments(random);
+  return checkAliases(random, showCall("LinearInterpol", v.a, v.b, v.y1, v.y2, v.forward),
+                      [&v](double* x, double*, double* y) {
+                        return LinearInterpol(v.a, v.b, v.y1, v.y2, x, y, v.forward);
+                      });
+}
+
+testing::AssertionResult checkQuadratic(Random& random) {
+  const Arguments v = drawArguments(random);
+  return checkAliases(
+      random, showCall("QuadraticInterpol", v.a, v.b, v.c, v.y1, v.y2, v.y3, v.forward),
+      [&v](double* x, double* second, double* y) {
+        return QuadraticInterpol(v.a, v.b, v.c, v.y1, v.y2, v.y3, x, second, y, v.forward);
+      });
+}
+
 }  // namespace
 
-testing::AssertionResult checkNumeric(Random& random) {
-  std::size_t choice = random.below(10);
-  const double a = drawDouble(random), b = drawDouble(random), c = drawDouble(random);
-  const int32_t m = drawInteger(random), n = drawInteger(random);
-  const double near = stepwise::toInt32(b) + random.between(-2, 90);
-  const double integral = static_cast<double>(random.below(1030));
-  CHECK(Fact, n);
-  CHECK(Cnk, a, b);
-  CHECK(Cnk, integral, std::fabs(n));
-  CHECK_GIVES(SumCnk, stepwise::sumOf(Cnk, a, b, near), a, b, near);
-  CHECK(Mod, m, n);
-  CHECK(LCD, m, n);
-  CHECK(LCD2, a, b);
-  CHECK(LCDDbl, a, b);
-  const double y1 = drawDouble(random), y2 = drawDouble(random), y3 = drawDouble(random);
-  const HostBool forward = drawFlag(random);
-  if (choice == 0) {
-    return checkAliases(
-        random, showCall("LinearInterpol", a, b, y1, y2, forward),
-        [=](double* x, double*, double* y) { return LinearInterpol(a, b, y1, y2, x, y, forward); });
-  }
-  return checkAliases(random, showCall("QuadraticInterpol", a, b, c, y1, y2, y3, forward),
-                      [=](double* x, double* second, double* y) {
-                        return QuadraticInterpol(a, b, c, y1, y2, y3, x, second, y, forward);
-                      });
+const Checks& checksOfNumerics() {
+  static const Checks checks{CHECK(Fact, n),
+                             CHECK(Cnk, a, b),
+                             CHECK(Cnk, integral, std::fabs(n)),
+                             CHECK_GIVES(SumCnk, stepwise::sumOf(Cnk, a, b, near), a, b, near),
+                             CHECK(Mod, m, n),
+                             CHECK(LCD, m, n),
+                             CHECK(LCD2, a, b),
+                             CHECK(LCDDbl, a, b),
+                             {"LinearInterpol", checkLinear},
+                             {"QuadraticInterpol", checkQuadratic}};
+  return checks;
 }

@@ -69,8 +69,6 @@ Call drawCall(Random& random, std::size_t thread, const std::vector<HostRoutine>
     call.texts.push_back(strings[i].text);
   }
   call.expected = call.routine->expected(call.texts);
-  announce(
-      [&] { return "thread " + std::to_string(thread) + ": " + call.routine->show(call.texts); });
   if (call.routine->make) strings.push_back({call.expected, thread});
   return call;
 }
@@ -107,8 +105,6 @@ testing::AssertionResult checkRound(Random& random, const std::vector<HostRoutin
   return testing::AssertionSuccess();
 }
 
-}  // namespace
-
 testing::AssertionResult checkSequence(Random& random) {
   static Numbers numbers;
   static const std::vector<HostRoutine> routines = hostRoutines(numbers);
@@ -130,4 +126,11 @@ testing::AssertionResult checkSequence(Random& random) {
     if (!string.isReleased) releaseBSTR(string.handle);
   }
   return result;
+}
+
+}  // namespace
+
+const Checks& checksOfSequences() {
+  static const Checks checks{{"Sequences", checkSequence}};
+  return checks;
 }

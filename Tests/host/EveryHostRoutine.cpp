@@ -23,6 +23,19 @@ ServiceCalls serviceCalls(const HostRoutine& routine, const Texts& texts, const 
   return calls;
 }
 
+// The call at a place, or that there is none.
+std::string showAt(const ServiceCalls& calls, std::size_t place) {
+  return place < calls.size() ? showCall(calls[place].first, calls[place].second) : "none";
+}
+
+void expectSame(const ServiceCalls& made, const ServiceCalls& due) {
+  const auto first = std::mismatch(made.begin(), made.end(), due.begin(), due.end()).first;
+  const auto place = static_cast<std::size_t>(first - made.begin());
+  EXPECT_TRUE(made == due) << "service call " << place + 1 << " of " << due.size()
+                           << "\n  is       " << showAt(made, place) << "\n  expected "
+                           << showAt(due, place);
+}
+
 void check(const HostRoutine& routine, Texts texts) {
   SCOPED_TRACE(routine.show(texts));
   const Strings strings(texts);
@@ -30,25 +43,23 @@ void check(const HostRoutine& routine, Texts texts) {
   const std::size_t aliveBefore = recording.alive.size();
   recording.calls.clear();
   EXPECT_EQ(routine.call(strings.handles()), expected);
-  EXPECT_EQ(recording.calls, serviceCalls(routine, texts, expected));
-  EXPECT_EQ(recording.alive.size(), aliveBefore);
+  expectSame(recording.calls, serviceCalls(routine, texts, expected));
+  EXPECT_EQ(recording.alive.size(), aliveBefore) << "is the number of host strings that are left";
   if (routine.worksInPlace(texts)) texts[0] = expected;
   EXPECT_EQ(strings.texts(), texts) << "are the arguments afterwards";
 }
 
 }  // namespace
 
-TEST(EveryHostRoutine, AllCombinationsOfArguments) {
+TEST_EACH_HOST_ROUTINE(ServiceCalls) {
   const Texts values{L" a:7<BR>:A ", kNullHandle, L"A", L":", L"", L"US", L" ", L"7"};
-  for (const HostRoutine& routine : hostRoutines()) {
-    // Of the routines with more strings, fewer values. The digits of a number choose among them.
-    const std::size_t count = routine.strings <= 3 ? values.size() : 4;
-    for (std::size_t number = 0; !HasFailure(); ++number) {
-      Texts texts;
-      std::size_t rest = number;
-      for (; texts.size() < routine.strings; rest /= count) texts.push_back(values[rest % count]);
-      if (rest > 0) break;
-      check(routine, texts);
-    }
+  // Of the routines with more strings, fewer values. The digits of a number choose among them.
+  const std::size_t count = routine.strings <= 3 ? values.size() : 4;
+  for (std::size_t number = 0; !testing::Test::HasFailure(); ++number) {
+    Texts texts;
+    std::size_t rest = number;
+    for (; texts.size() < routine.strings; rest /= count) texts.push_back(values[rest % count]);
+    if (rest > 0) break;
+    check(routine, texts);
   }
 }

@@ -2,13 +2,23 @@
 // built.
 #include "support/Expectations.h"
 
-TEST(Examples, OfTheHeader) {
-  int32_t i, j;
-  double x, xSecond, y;
-#include "HeaderExamples.inc"
-}
+namespace {
 
-TEST(Examples, OfTheReadme) {
+// Named by the routine and by the number of the example in the header.
+#define EXAMPLE(routine, ...)                                  \
+  addTest(#routine, "Example" + std::to_string(__LINE__), [] { \
+    [[maybe_unused]] int32_t i = 0, j = 0;                     \
+    [[maybe_unused]] double x = 0.0, xSecond = 0.0, y = 0.0;   \
+    __VA_ARGS__                                                \
+  });
+[[maybe_unused]] const bool areAdded = [] {
+#include "HeaderExamples.inc"
+  return true;
+}();
+
+}  // namespace
+
+TEST(Readme, Calls) {
 #include "ReadmeCalls.inc"
   EXPECT_EQ(phrase, L"Linear model");
   EXPECT_EQ(list, u"a, b, c");

@@ -1,11 +1,9 @@
 // Arguments on a page that cannot be written and that ends where nothing can be read: no routine
-// reads behind the end of an argument or writes to one. One that does so ends the process, with a
-// line that names the routine and the argument.
+// reads behind the end of an argument or writes to one. One that does so ends the process, with
+// lines that name the call and the argument.
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <csignal>
-#include <cstdio>
 #include <span>
 
 #include "support/HostRoutines.h"
@@ -40,83 +38,73 @@ Number* holdOne(std::size_t argument, Number number, bool mayBeWritten) {
   return hold(argument, std::span<const Number>(&number, 1), mayBeWritten);
 }
 
-std::string calling;  // the routine, and what it is given
-
-void explain(int signal, siginfo_t* fault, void*) {
-  const auto page = static_cast<std::size_t>(static_cast<char*>(fault->si_addr) - pages) / kSize;
-  const char* const what = page >= 2 * kArguments ? "touches other memory, no"
-                           : page % 2 == 1        ? "goes beyond the end of"
-                                                  : "writes to";
-  std::fprintf(stderr, "%s: %s argument %zu\n", calling.c_str(), what, page / 2 + 1);
-  std::signal(signal, SIG_DFL);  // the fault comes again, and ends the process
+std::string explain(const void* address) {
+  const auto offset = static_cast<std::size_t>(static_cast<const char*>(address) - pages);
+  const std::size_t page = offset / kSize;
+  if (page >= 2 * kArguments) return "at an address outside the arguments";
+  return (page % 2 == 1 ? "behind the end of argument " : "writing to argument ") +
+         std::to_string(page / 2 + 1);
 }
-
-class GuardPages : public testing::Test {
- protected:
-  GuardPages() {
-    struct sigaction action = {};
-    action.sa_sigaction = explain;
-    action.sa_flags = SA_SIGINFO;
-    for (const int signal : {SIGSEGV, SIGBUS}) sigaction(signal, &action, nullptr);
-  }
-  ~GuardPages() override {
-    for (const int signal : {SIGSEGV, SIGBUS}) std::signal(signal, SIG_DFL);
-  }
-};
+[[maybe_unused]] const bool isExplained = (explainFault = explain, true);
 
 void check(const HostRoutine& routine, const Texts& texts) {
-  calling = routine.show(texts);
   const Text expected = routine.expected(texts);
   const bool inPlace = routine.worksInPlace(texts) && expected != texts[0];
   std::vector<BSTR> handles;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     handles.push_back(hold(i, narrow(texts[i]), inPlace && i == 0));
   }
-  ASSERT_EQ(routine.call(handles.data()), expected) << calling;
+  ASSERT_EQ(routine.call(handles.data()), expected) << routine.show(texts);
   if (inPlace) {
-    ASSERT_EQ(widen(handles[0]), expected) << calling;
+    ASSERT_EQ(widen(handles[0]), expected) << "the text after " << routine.show(texts);
   }
 }
 
 }  // namespace
 
-TEST_F(GuardPages, TextsOfEveryLength) {
-  for (const HostRoutine& routine : hostRoutines()) {
-    Text text;
-    for (std::size_t size = 0; size <= 300; ++size, text += L"aba:<BR> 7"[size % 10]) {
-      // One argument after the other is of that length, and then all are.
-      for (std::size_t i = 0; i <= routine.strings; ++i) {
-        for (const Text other : {L"", L"a", L"b", L"US", L"aba"}) {
-          Texts texts(routine.strings, i < routine.strings ? other : text);
-          if (i < routine.strings) texts[i] = text;
-          check(routine, texts);
-          if (HasFatalFailure()) return;
-        }
+TEST_EACH_HOST_ROUTINE(GuardPages) {
+  Text text;
+  for (std::size_t size = 0; size <= 300; ++size, text += L"aba:<BR> 7"[size % 10]) {
+    // One argument after the other is of that length, and then all are.
+    for (std::size_t i = 0; i <= routine.strings; ++i) {
+      for (const Text other : {L"", L"a", L"b", L"US", L"aba"}) {
+        Texts texts(routine.strings, i < routine.strings ? other : text);
+        if (i < routine.strings) texts[i] = text;
+        check(routine, texts);
+        if (testing::Test::HasFatalFailure()) return;
       }
     }
   }
 }
 
-// Where a routine takes wide units by a pointer, and where it writes.
-TEST_F(GuardPages, Pointers) {
+// Where a routine takes wide text by a pointer, and where it writes.
+TEST(Replace, GuardPages) {
   for (std::size_t size = 0; size <= 300; ++size) {
-    calling = "Replace, SysAllocString2 of texts of " + std::to_string(size);
     const Text pattern(size, L'a'), with(size, L'b');
-    ASSERT_EQ(Replace(L"-" + pattern + L"-", hold(0, pattern), hold(1, with)), L"-" + with + L"-");
-    ASSERT_EQ(take(SysAllocString2(hold(0, with))), with);
-    calling = "VB_SetFormat of an array of " + std::to_string(size);
-    const std::vector<BSTR> unset(size);
-    BSTR* const formats = hold(0, std::span(unset), true);
-    VB_SetFormat(formats, static_cast<int32_t>(size), 2, -1);
-    for (std::size_t i = 0; i < size; ++i) ASSERT_EQ(take(formats[i]), L"0.0");
+    ASSERT_GIVES(Replace, L"-" + with + L"-", L"-" + pattern + L"-",
+                 static_cast<const wchar_t*>(hold(0, pattern)),
+                 static_cast<const wchar_t*>(hold(1, with)));
+    ASSERT_GIVES(SysAllocString2, with, static_cast<const wchar_t*>(hold(0, with)));
   }
-  // What is only read in the direction at hand is not written.
+}
+
+TEST(VB_SetFormat, WritesItsArrayAlone) {
+  for (int32_t size = 0; size <= 300; ++size) {
+    const std::vector<BSTR> unset(static_cast<std::size_t>(size));
+    BSTR* const formats = hold(0, std::span(unset), true);
+    named([&] { return showCall("VB_SetFormat", L"array", size, 2, -1); },
+          [&] { VB_SetFormat(formats, size, 2, -1); });
+    for (int32_t i = 0; i < size; ++i) ASSERT_EQ(take(formats[i]), L"0.0") << i << " of " << size;
+  }
+}
+
+// What is only read in the direction at hand is not written.
+TEST(LinearInterpol, AndQuadraticInterpolWriteTheirResultsAlone) {
   for (const HostBool forward : {QUVARDBS1C_TRUE, QUVARDBS1C_FALSE}) {
-    calling = "LinearInterpol, QuadraticInterpol, forward " + std::to_string(forward);
     double* const x = holdOne(2, 2.0, !forward);
     double* const second = holdOne(3, 7.0, !forward);
     double* const y = holdOne(4, 4.0, forward);
-    EXPECT_EQ(LinearInterpol(1, 3, 2, 6, x, y, forward), 0);
-    EXPECT_EQ(QuadraticInterpol(1, 2, 4, 0, 0, 6, x, second, y, forward), 0);
+    EXPECT_GIVES(LinearInterpol, 0, 1, 3, 2, 6, x, y, forward);
+    EXPECT_GIVES(QuadraticInterpol, 0, 1, 2, 4, 0, 0, 6, x, second, y, forward);
   }
 }

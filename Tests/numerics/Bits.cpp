@@ -1,16 +1,16 @@
-// Bits FILE...: whether the numerics give the bits of files that numerics/bits/make.py makes. Prints
-// the first rows that do not hold, and ends with status 1.
+// QUVARDBits FOLDER [ROUTINE]: compares the numerics, or one of them, with the bits in FOLDER, which
+// numerics/bits/make.py makes. Prints the first rows that differ, and ends with status 1.
 //
-// The functions of the platform are given by this program, which the loader finds first, but for
-// macOS. They give the correctly rounded values of the file, so that its rows hold bit by bit on any
-// platform, and a call that the file does not have is a fault.
+// This program has the mathematical functions of the platform itself, and the loader finds them first.
+// They return the correctly rounded values of functions.txt, so the rows hold bit by bit on any
+// platform, and a call that is not there is a fault. On macOS the loader does not, so platform.txt is
+// left out.
 #include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iomanip>
 #include <iostream>
 #include <map>
-#include <set>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -107,8 +107,6 @@ const auto kRoutines =
               IsLong, IsLongP, LCD, LCD2, LCDDbl, Log10, LogExpAPlusExpB, Max, Min, Mod, ModDbl, Pi,
               SumCnk, expm1x, spow, sqr);
 
-const std::set<std::string> kFunctions{"atan", "exp", "log", "log10", "pow"};
-
 // Keeps a row of a function of the platform.
 void keep(const std::string& function, std::istream& row) {
   std::vector<uint64_t> arguments;
@@ -117,24 +115,18 @@ void keep(const std::string& function, std::istream& row) {
   answers[{function, arguments}] = result;
 }
 
-// Adds what is wrong with a file.
-void check(const char* path, std::vector<std::string>& faults) {
+// Calls a function with the name of each row's routine and with the row.
+void forEachRow(const std::string& path, auto use) {
   std::ifstream file(path);
   std::string name;
   for (std::string line; std::getline(file, line);) {
     std::istringstream row(line);
-    const auto routine = kRoutines.find(name);
     if (line.ends_with(':')) {
       name = line.substr(0, line.size() - 1);
-    } else if (kFunctions.contains(name)) {
-      keep(name, row);
-    } else if (routine == kRoutines.end()) {
-      faults.push_back("No routine is called " + name);
-    } else if (const std::string fault = routine->second(row); !fault.empty()) {
-      faults.push_back(name + fault);
+    } else {
+      use(name, row);
     }
   }
-  if (name.empty()) faults.push_back(std::string("No rows in ") + path);
 }
 
 }  // namespace
@@ -149,10 +141,25 @@ OF_PLATFORM pow(double x, double y) noexcept { return answer("pow", x, y); }
 }
 
 int main(int argc, char** argv) {
+  if (argc < 2) return 2;
   constexpr std::size_t kShown = 10;
+  const std::string folder = argv[1], only = argc > 2 ? argv[2] : "";
   std::vector<std::string> faults;
-  for (int i = 1; i < argc; ++i) check(argv[i], faults);
+  std::size_t rows = 0;
+  const auto check = [&](const std::string& name, std::istream& row) {
+    if (!only.empty() && name != only) return;
+    ++rows;
+    const auto routine = kRoutines.find(name);
+    const std::string fault = routine == kRoutines.end() ? " is no routine" : routine->second(row);
+    if (!fault.empty()) faults.push_back(name + fault);
+  };
+  forEachRow(folder + "/functions.txt", keep);
+  forEachRow(folder + "/own.txt", check);
+#ifndef __APPLE__
+  forEachRow(folder + "/platform.txt", check);
+#endif
   for (std::size_t i = 0; i < std::min(kShown, faults.size()); ++i) std::cout << faults[i] << '\n';
   if (faults.size() > kShown) std::cout << "and " << faults.size() - kShown << " more\n";
-  return argc > 1 && faults.empty() ? 0 : 1;
+  if (rows == 0) std::cout << "No rows of " << (only.empty() ? "any routine" : only) << '\n';
+  return rows > 0 && faults.empty() ? 0 : 1;
 }

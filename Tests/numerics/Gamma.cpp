@@ -12,7 +12,7 @@ double shifted(double x, int steps) {
 }  // namespace
 
 // The edges that the contract names below 0, each with the doubles on both sides of it.
-TEST(Gamma, EdgesBelowZero) {
+TEST(GammaLn, EdgesBelowZero) {
   enum Kind { kRefused, kNan, kInfinite, kFinite };
   for (const auto& [x, steps, expected] :
        {row(-6.5, -1, kRefused),  row(-6.5, 0, kInfinite),     row(-6.5, 1, kFinite),

@@ -1,6 +1,6 @@
 #include "support/SmallScopes.h"
 
-TEST(AdjectiveNoun, InEveryLanguageWithEveryFlag) {
+TEST(LocalAN, InEveryLanguageWithEveryFlag) {
   const std::vector<Text> words{L"", L"ad", L"No", L"XX", L"\0a"s};
   const std::vector<Text> languages{L"ES",  L"FR",  L"IT", L"PT", L"PL",    L"US",   L"DE",
                                     L"JP",  L"CS",  L"CN", L"us", L"Us",    L"uS",   L"U",

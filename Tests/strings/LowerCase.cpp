@@ -4,13 +4,13 @@
 #include "TestPaths.h"
 #include "support/Expectations.h"
 
-TEST(LowerCase, DefaultLocaleChangesAToZAlone) {
+TEST(StrLCase, DefaultLocaleChangesAToZAlone) {
   Text lower = allUnits();
   for (wchar_t& unit : lower) unit += unit >= L'A' && unit <= L'Z' ? 32 : 0;
   EXPECT_GIVES(StrLCase, lower, allUnits());
 }
 
-TEST(LowerCase, ValuesThatAreNoCharacterStay) {
+TEST(StrLCase, ValuesThatAreNoCharacterStay) {
   for (const Text text : {L"\x10FFFF", L"\x110000", L"\x7FFFFFFF", L"\x80000000", L"\xFFFFFFFF"}) {
     EXPECT_GIVES(StrLCase, text, text);
     EXPECT_GIVES(LowerFirst, text, text, L"", 0);
@@ -32,7 +32,7 @@ bool setLocale(const char* name) {
 
 }  // namespace
 
-TEST(LowerCase, FollowsTheLocaleOfTheProcess) {
+TEST(StrLCase, FollowsTheLocaleOfTheProcess) {
   // What I, i and L with a stroke become.
   for (const auto& [name, i, I, stroke] :
        {row("C", L"i"s, L"I"s, L"\x141"s), row("C.UTF-8", L"i"s, L"I"s, L"\x142"s),

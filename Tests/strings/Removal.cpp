@@ -1,11 +1,11 @@
 #include "support/SmallScopes.h"
 
-TEST(Removal, CharOfEveryShortText) {
+TEST(RemoveChar, OfEveryShortText) {
   EXPECT_SAME(RemoveChar, stepwise::RemoveChar, textsUpTo(11), textsUpTo(6));
 }
 
 // More units than the first form takes, so that a removal completes the next one again and again.
-TEST(Removal, CharOfLongPeriods) {
+TEST(RemoveChar, OfLongPeriods) {
   for (const Text& period : textsUpTo(4)) {
     if (period.empty()) continue;
     Text chars;
@@ -19,7 +19,7 @@ TEST(Removal, CharOfLongPeriods) {
   }
 }
 
-TEST(Removal, CharIsOnePass) {
+TEST(RemoveChar, IsOnePass) {
   const Text a(300000, L'a'), b(300000, L'b');
   EXPECT_GIVES(RemoveChar, b, a + b, L"ab");
   EXPECT_GIVES(RemoveChar, L"a", a, L"aa");
@@ -36,13 +36,15 @@ TEST(Removal, CharIsOnePass) {
   EXPECT_GIVES(RemoveChar, a.substr(0, 300 * 999) + a, blocks + a, b[0] + a.substr(0, 150000));
 }
 
-TEST(Removal, ColonsAndSemicolons) {
+TEST(RemoveColon, OfEveryShortText) {
   EXPECT_SAME(RemoveColon, stepwise::RemoveColon, textsUpTo(6, L" :;a"s + L'\0'));
-  EXPECT_SAME(RemoveSemicolon, stepwise::RemoveSemicolon, textsUpTo(6, L" :;a"s + L'\0'));
   EXPECT_SAME(VB_RemoveColon, stepwise::VB_RemoveColon, textsUpTo(6, L" :;a"));
-  EXPECT_GIVES(VB_RemoveColon, kNullHandle, nullptr);
 }
 
-TEST(Removal, NonDigits) {
+TEST(RemoveSemicolon, OfEveryShortText) {
+  EXPECT_SAME(RemoveSemicolon, stepwise::RemoveSemicolon, textsUpTo(6, L" :;a"s + L'\0'));
+}
+
+TEST(RemoveNonNumericChar, OfAllUnits) {
   EXPECT_GIVES(RemoveNonNumericChar, L"30123456789", L"3\0"s + allUnits());
 }

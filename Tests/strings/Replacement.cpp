@@ -18,22 +18,22 @@ void expectReplaced(const Text& pattern, const Text& with, const Text& text) {
 
 }  // namespace
 
-TEST(Replacement, InEveryShortText) {
+TEST(Replace, InEveryShortText) {
   forEach(expectReplaced, textsUpTo(5), textsUpTo(3), textsUpTo(9));
 }
 
-TEST(Replacement, TwiceInEveryShortText) {
+TEST(VB_Replace2, InEveryShortText) {
   const auto parts = textsUpTo(2);
   EXPECT_SAME(VB_Replace2, stepwise::VB_Replace2, textsUpTo(5), parts, parts, parts, parts);
 }
 
-TEST(Replacement, WideTextsMayHoldZeroUnits) {
+TEST(Replace, WideTextsMayHoldZeroUnits) {
   EXPECT_GIVES(Replace, L"a-b-", L"a\0b\0"s, L"\0"s, L"-"s);
   EXPECT_GIVES(Replace, L"a\0\0\0"s, L"a\0b\0"s, L"b"s, L"\0"s);
   EXPECT_GIVES(Replace, L"a\0cd\0"s, L"a\0b\0"s, L"b", L"cd");
 }
 
-TEST(Replacement, LongTextsInOnePass) {
+TEST(Replace, LongTextsInOnePass) {
   const Text rest(1000000, L'a'), pattern = Text(200000, L'a') + L"b";
   EXPECT_GIVES(Replace, L"x" + rest, pattern + rest, pattern, L"x"s);
   EXPECT_GIVES(VB_Replace, Text(140000, L'b'), Text(70000, L'a'), L"a", L"bb");
@@ -42,14 +42,14 @@ TEST(Replacement, LongTextsInOnePass) {
                Text(99999, L'b') + L"c", L"");
 }
 
-TEST(Replacement, NullHandles) {
+TEST(VB_Replace, NullHandles) {
   const B text(u"a-b-c"), dash(u"-");
   EXPECT_EQ(VB_Replace(nullptr, dash, dash), nullptr);
   EXPECT_EQ(VB_Replace(text, nullptr, dash), BSTR(text));
   EXPECT_GIVES(VB_Replace, L"abc", L"a-b-c", L"-", nullptr);
 }
 
-TEST(Replacement, OneForOneWritesOnlyWhatChanges) {
+TEST(VB_Replace, OneForOneWritesOnlyWhatChanges) {
   // A text in memory that cannot be written stays whole where nothing is to be replaced.
   static const char16_t kFixed[] =
       u"a text that does not hold the unit and is longer than one block of them";

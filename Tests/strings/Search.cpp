@@ -1,6 +1,6 @@
 #include "support/SmallScopes.h"
 
-TEST(Search, CommonCharOfEveryShortText) {
+TEST(CommonChar, OfEveryShortText) {
   // Units that agree in their low 16 bits, a negative one among them; alone, among more than a few
   // others and among many.
   const auto texts = textsUpTo(3, L"\x61\x10061\x80000061\xFFFF"s + L'\0');
@@ -12,13 +12,13 @@ TEST(Search, CommonCharOfEveryShortText) {
   EXPECT_SAME(CommonChar, stepwise::CommonChar, sets, texts);
 }
 
-TEST(Search, CountInEveryShortText) {
+TEST(cChrCount, InEveryShortText) {
   EXPECT_SAME(cChrCount, stepwise::cChrCount, textsUpTo(9), textsUpTo(5));
 }
 
-TEST(Search, CountOfMany) { EXPECT_GIVES(cChrCount, 0x18001, Text(0x18001, L'a'), L"a"); }
+TEST(cChrCount, OfMany) { EXPECT_GIVES(cChrCount, 0x18001, Text(0x18001, L'a'), L"a"); }
 
-TEST(Search, CountEndsAtZeroUnits) {
+TEST(cChrCount, EndsAtZeroUnits) {
   EXPECT_GIVES(cChrCount, 2, L"aa\0a"s, L"a");
   EXPECT_GIVES(cChrCount, 2, L"abab", L"ab\0c"s);
   EXPECT_GIVES(cChrCount, 0, L"ab", L"\0a"s);

@@ -1,10 +1,17 @@
 #include "support/SmallScopes.h"
 
-TEST(Substrings, OfEveryLength) {
-  const std::vector<Text> texts{L"", L"a", L"ab", L"Hello"};
-  const auto counts = integersNear(9);
-  EXPECT_SAME(StrLeft, stepwise::StrLeft, texts, counts);
-  EXPECT_SAME(StrRight, stepwise::StrRight, texts, counts);
-  EXPECT_SAME(VB_StrLeft, stepwise::StrLeft, texts, counts);
-  EXPECT_SAME(VB_StrRight, stepwise::StrRight, texts, counts);
+namespace {
+
+const std::vector<Text> kTexts{L"", L"a", L"ab", L"Hello"};
+
+}  // namespace
+
+TEST(StrLeft, OfEveryLength) {
+  EXPECT_SAME(StrLeft, stepwise::StrLeft, kTexts, integersNear(9));
+  EXPECT_SAME(VB_StrLeft, stepwise::StrLeft, kTexts, integersNear(9));
+}
+
+TEST(StrRight, OfEveryLength) {
+  EXPECT_SAME(StrRight, stepwise::StrRight, kTexts, integersNear(9));
+  EXPECT_SAME(VB_StrRight, stepwise::StrRight, kTexts, integersNear(9));
 }

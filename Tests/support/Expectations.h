@@ -5,12 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <iomanip>
 #include <sstream>
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
+#include "support/CurrentCall.h"
 #include "support/Doubles.h"
 #include "support/HostStrings.h"
 
@@ -37,6 +39,8 @@ requires std::is_arithmetic_v<Number> std::string show(Number number, std::size_
   out << std::setprecision(17) << number;
   return out.str();
 }
+
+inline std::string show(const double* number, std::size_t = 0) { return show(*number); }
 
 inline std::string listOf(const std::vector<std::string>& parts) {
   std::string list;
@@ -83,11 +87,8 @@ testing::AssertionResult isSame(const Actual& actual, const Expected& expected, 
 testing::AssertionResult gives(const char* routine, const auto& call, const auto& expected,
                                const auto&... arguments) {
   const auto shownHere = [&] { return showCall(routine, arguments...); };
-  try {
-    return isSame(comparable(call(arguments...)), comparable(expected), shownHere);
-  } catch (const std::exception& exception) {
-    return testing::AssertionFailure() << shownHere() << "\n  throws " << exception.what();
-  }
+  return isSame(named(shownHere, [&] { return comparable(call(arguments...)); }),
+                comparable(expected), shownHere);
 }
 
 // A text as the argument of a host routine; anything else as it is.
@@ -109,6 +110,18 @@ const auto& asHostArgument(const auto& argument) { return argument; }
   }
 inline testing::AssertionResult resultItself(const char*, testing::AssertionResult result) {
   return result;
+}
+
+// Adds a test that is named after a routine, so that ctest -R finds it.
+inline void addTest(const std::string& routine, const std::string& test,
+                    std::function<void()> body) {
+  struct Named : testing::Test {
+    explicit Named(std::function<void()> function) : body(std::move(function)) {}
+    void TestBody() override { body(); }
+    std::function<void()> body;
+  };
+  testing::RegisterTest(routine.c_str(), test.c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                        [body]() -> testing::Test* { return new Named(body); });
 }
 
 // Expects that an expression, whose own text is shown, gives a result.

@@ -38,6 +38,7 @@ struct HostRoutine {
   std::function<Text(Handles)> call;       // its result as text, released
   std::function<void(Handles)> run;        // the same call, its result released at once
   std::function<Text(const Texts&)> wide;  // the same from wide text
+  std::function<std::vector<std::string>(const Texts&)> shown;  // all arguments, for a failure
   std::function<BSTR(Handles)> make = {};  // its result itself, if that is a host string
   const Path* path = nullptr;
 
@@ -61,11 +62,7 @@ struct HostRoutine {
   }
 
   // A call as a failure shows it.
-  std::string show(const Texts& texts) const {
-    std::vector<std::string> shown;
-    for (const Text& text : texts) shown.push_back(::show(text));
-    return name + "(" + listOf(shown) + ")";
-  }
+  std::string show(const Texts& texts) const { return name + "(" + listOf(shown(texts)) + ")"; }
 };
 
 inline Text textOf(BSTR result) { return take(result); }
@@ -87,11 +84,25 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), auto wide
     }
     (std::make_index_sequence<count>());
   };
-  HostRoutine routine{name, count, [=](Handles s) { return textOf(call(host, s)); },
+  const auto shown = [&scalars...](const Texts& texts) {
+    std::vector<std::string> arguments;
+    for (std::size_t i = 0; i < count; ++i) arguments.push_back(show(texts[i]));
+    (arguments.push_back(show(scalars)), ...);
+    return arguments;
+  };
+  const auto callHost = [=](Handles handles) {
+    const auto describe = [&] {
+      return std::string(name) + "(" + listOf(shown(textsOf({handles, count}))) + ")";
+    };
+    return named(describe, [&] { return call(host, handles); });
+  };
+  HostRoutine routine{name,
+                      count,
+                      [=](Handles s) { return textOf(callHost(s)); },
                       [=](Handles s) { discard(call(host, s)); },
-                      [=](const Texts& t) { return textOf(call(wide, t)); }};
-  if constexpr (std::is_same_v<Result, BSTR>)
-    routine.make = [=](Handles s) { return call(host, s); };
+                      [=](const Texts& t) { return textOf(call(wide, t)); },
+                      shown};
+  if constexpr (std::is_same_v<Result, BSTR>) routine.make = callHost;
   return routine;
 }
 
@@ -163,5 +174,16 @@ inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumb
 #undef ROUTINE
   return all;
 }
+
+// Defines a test of each host routine, named after it: VB_Replace.GuardPages.
+#define TEST_EACH_HOST_ROUTINE(test)                         \
+  static void test##Of(const HostRoutine& routine);          \
+  [[maybe_unused]] static const bool test##IsAdded = [] {    \
+    for (const HostRoutine& each : hostRoutines()) {         \
+      addTest(each.name, #test, [each] { test##Of(each); }); \
+    }                                                        \
+    return true;                                             \
+  }();                                                       \
+  static void test##Of(const HostRoutine& routine)
 
 #endif

@@ -4,6 +4,7 @@
 
 #include <list>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,12 @@ class B {
   BSTR handle_;
 };
 
+inline Texts textsOf(std::span<const BSTR> handles) {
+  Texts texts;
+  for (const BSTR handle : handles) texts.push_back(handle ? widen(handle) : kNullHandle);
+  return texts;
+}
+
 // Host strings of the given texts, and the handles of them all.
 class Strings {
  public:
@@ -53,11 +60,7 @@ class Strings {
     }
   }
   const BSTR* handles() const { return handles_.data(); }
-  Texts texts() const {
-    Texts texts;
-    for (const BSTR handle : handles_) texts.push_back(handle ? widen(handle) : kNullHandle);
-    return texts;
-  }
+  Texts texts() const { return textsOf(handles_); }
 
  private:
   std::list<B> owners_;
