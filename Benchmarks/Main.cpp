@@ -15,8 +15,8 @@
 namespace benchmarks {
 namespace {
 
-constexpr double kSeconds =
-    0.005;  // for each contestant; scripts/bench takes the least of many runs
+// For each contestant; scripts/bench takes the least time of many runs.
+constexpr double kSeconds = 0.005;
 
 bool agree(double a, double b, double tolerance) {
   return a == b || std::fabs(a - b) <= tolerance * std::fabs(a);
