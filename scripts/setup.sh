@@ -17,7 +17,7 @@ export CTEST_PARALLEL_LEVEL="${CTEST_PARALLEL_LEVEL:-$jobs}"
 build_needs=(c++:g++:xcode make:make:xcode cmake)
 test_needs=("${build_needs[@]}" gtest/gtest.h:libgtest-dev:googletest pkg-config:pkg-config:pkgconf
   /usr/share/i18n/locales/tr_TR:locales)
-docs_needs=(doxygen dot:graphviz linkchecker)
+docs_needs=(doxygen dot:graphviz linkchecker markdown_py:python3-markdown)
 report_needs=(python3:python3:python)
 benchmark_needs=(
   benchmark/benchmark.h:libbenchmark-dev:google-benchmark
