@@ -34,8 +34,9 @@ macos_needs=("${build_needs[@]}" npm:npm:node llvm-objdump:llvm)
 vba_needs=(cc:gcc:xcode npm:npm:node tree_sitter/api.h:libtree-sitter-dev:tree-sitter)
 interface_needs=("${build_needs[@]}" g++:g++:xcode abidw:abigail-tools:libabigail)
 libcxx_needs=("c++/v1/string.h:libc++-dev libc++abi-dev:llvm")
-fuzz_needs=("${build_needs[@]}" gtest/gtest.h:libgtest-dev:googletest clang++:clang:xcode
+sanitizer_needs=(clang++:clang:xcode
   "/usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*:libclang-rt-dev")
+fuzz_needs=("${build_needs[@]}" gtest/gtest.h:libgtest-dev:googletest "${sanitizer_needs[@]}")
 valgrind_needs=(valgrind/valgrind.h:valgrind)
 arm_needs=("${test_needs[@]}" aarch64-linux-gnu-g++:g++-aarch64-linux-gnu
   qemu-aarch64-static:qemu-user-static)
@@ -49,15 +50,12 @@ package_needs=("${build_needs[@]}" dpkg-shlibdeps:dpkg-dev:dpkg debootstrap lint
 say() { printf '%s\n' "$@" >&2; }
 
 # Says lines, and ends.
-fail() {
-  say "$@"
-  exit 1
-}
+fail() { say "$@"; exit 1; }
 
 # Prints the comment at the top of the script.
 help() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"; }
 
-help_if_asked() { if [ "${1:-}" = --help ]; then help && exit; fi; }
+help_if_asked() { if [ "${1:-}" = --help ]; then help; exit; fi; }
 
 # bad_argument TEXT: says what is wrong with the arguments, and ends.
 bad_argument() {
@@ -191,7 +189,6 @@ set_up() {
 
   say "Installing$packages with apt-get; this may take some minutes."
   quietly as_root apt-get update || say "Going on with the package lists at hand."
-  # The packages are separate words.
   # shellcheck disable=SC2086
   quietly as_root env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends $packages ||
     fail "apt-get could not install$packages."
