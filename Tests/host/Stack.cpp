@@ -5,7 +5,6 @@
 #include <ucontext.h>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <functional>
@@ -27,7 +26,6 @@ char* const stack = guard + kPage;
 
 ucontext_t caller, callee;
 const std::function<void()>* work;
-std::string calling;
 
 void run() { (*work)(); }
 
@@ -37,9 +35,8 @@ std::size_t paintedBytes(const char* start, std::size_t size) {
   return static_cast<std::size_t>(std::find_if_not(start, start + size, isPaint) - start);
 }
 
-void explain(int signal) {
-  std::fprintf(stderr, "%s: needs more than %zu bytes of stack\n", calling.c_str(), kStack);
-  std::signal(signal, SIG_DFL);  // the fault comes again and ends the process
+std::string explain(const void*) {
+  return "more than " + std::to_string(kStack) + " bytes of stack are needed";
 }
 
 class Stack : public testing::Test {
@@ -48,21 +45,18 @@ class Stack : public testing::Test {
     static char handlerStack[64 * 1024];
     const stack_t alternate{.ss_sp = handlerStack, .ss_flags = 0, .ss_size = sizeof handlerStack};
     sigaltstack(&alternate, nullptr);
-    struct sigaction action = {};
-    action.sa_handler = explain;
-    action.sa_flags = SA_ONSTACK;
-    sigaction(SIGSEGV, &action, nullptr);
+    explainFault = explain;
     ASSERT_EQ(mprotect(guard, kPage, PROT_NONE), 0);
   }
   void TearDown() override {
-    std::signal(SIGSEGV, SIG_DFL);
     std::printf("Highest use: %zu bytes, %s\n", highest_, highestCall_.c_str());
   }
 
   // Calls twice: the first call may bind functions and allocate the buffer of the thread.
   void expectFits(const std::string& name, const std::function<void()>& call) {
     call();
-    calling = name;
+    const auto describe = [&] { return name; };
+    const CurrentCall current(describe);
     std::memset(neighbour, kPaint, kNeighbour);
     std::memset(stack, kPaint, kStack);
     getcontext(&callee);
@@ -108,5 +102,6 @@ TEST_F(Stack, EveryHostRoutine) {
 TEST_F(Stack, EveryExampleOfTheHeader) {
   int32_t i, j;
   double x, xSecond, y;
+#define EXAMPLE(routine, ...) __VA_ARGS__
 #include "HeaderExamples.inc"
 }

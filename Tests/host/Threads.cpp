@@ -63,5 +63,6 @@ TEST(Threads, EightAtOnce) {
 // Results go from call to call and from thread to thread.
 TEST(Threads, InRandomSequences) {
   Random random;
-  for (int i = 0; i < 2000; ++i) ASSERT_TRUE(checkAny(checksOfSequences(), random)) << "in sequence " << i;
+  for (int i = 0; i < 2000; ++i)
+    ASSERT_TRUE(checkAny(checksOfSequences(), random)) << "in sequence " << i;
 }

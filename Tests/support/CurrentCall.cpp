@@ -24,7 +24,7 @@ void onSignal(int signal, siginfo_t* fault, void*) {
   for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL}) {
     struct sigaction action = {}, before = {};
     action.sa_sigaction = onSignal;
-    action.sa_flags = SA_SIGINFO;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
     sigaction(signal, nullptr, &before);
     if (before.sa_handler == SIG_DFL) sigaction(signal, &action, nullptr);
   }
