@@ -98,6 +98,7 @@ TEST_F(Stack, EveryHostRoutine) {
 #undef EXPECT_EXAMPLE
 #define EXPECT_TRUE(condition) expectFits(#condition, [&] { static_cast<void>(condition); })
 #define EXPECT_EXAMPLE(actual, expected) expectFits(#actual, [&] { comparable(actual); })
+#define EXAMPLE(routine, ...) __VA_ARGS__
 
 TEST_F(Stack, EveryExampleOfTheHeader) {
   int32_t i, j;

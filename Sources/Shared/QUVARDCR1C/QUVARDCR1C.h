@@ -61,9 +61,9 @@ QUVARDCR1C_API void releaseBSTR(BSTR handle);
 
 /// Returns the code units of @p handle as wide code units, null-terminated.
 ///
-/// A thread keeps its buffer: 1 KiB at first, 4 bytes per code unit for longer texts, at most 4 MiB. A
-/// larger one is released when the thread's next text fits into 4 MiB. The buffer of a thread that has
-/// ended is released when another thread gets its first buffer or a new one.
+/// A thread keeps its buffer: 1 KiB at first; for longer texts 4 bytes per code unit, rounded up to a
+/// power of two; at most 4 MiB. A larger one is released when the thread's next text fits into 4 MiB. The
+/// buffer of a thread that has ended is released when other threads get their first buffer or a new one.
 ///
 /// @param handle  host string, not null
 /// @return        buffer of the calling thread, valid until the thread's next call of CW162W32(); not

@@ -2,8 +2,8 @@
 //
 // Each thread that needs a buffer claims a slot and owns it until the thread ends. No code runs when a
 // thread ends. Instead, a thread that gets its first buffer or another one asks the system which owners
-// have ended, and releases their buffers. So calls from destructors work and leak nothing, in any order
-// of destruction.
+// have ended, and releases their buffers. So calls from the destructors of a thread work and leak
+// nothing, in any order. The system knows a main thread that ended by pthread_exit until the process ends.
 //
 // The usual ways to release memory at the end of a thread do not meet every condition of a host:
 // - A pthread key: the host may have taken all of them; a call in the last round of key destructors
@@ -34,13 +34,13 @@
 
 namespace {
 
-// A buffer above this capacity (4 MiB) is replaced as soon as a text fits below it.
+// A larger buffer (above 4 MiB) is replaced when the thread's next text fits into this capacity.
 constexpr std::size_t kMaxIdleCapacity = std::size_t{1} << 20;
 constexpr std::size_t kMinCapacity = 256;
 
-// A thread of this process, or one of the values below.
+// A thread of this process or, after a fork, of the parent; or one of the values below.
 using Owner = std::uint64_t;
-constexpr Owner kUnowned = 0;  // a slot without a buffer
+constexpr Owner kUnowned = 0;  // free to be claimed; has no buffer
 constexpr Owner kLocked = 1;   // a thread is asking whether the owner has ended
 
 #ifdef __APPLE__
@@ -59,8 +59,8 @@ Owner currentThread() {
   return static_cast<Owner>(getpid()) << kProcessShift | static_cast<Owner>(syscall(SYS_gettid));
 }
 
-// After a fork, the threads of the parent are unknown to the child. One of their slots is that of the
-// thread that called fork, so all of them count as existing.
+// A slot that was claimed before a fork names the parent process. It may be that of the thread that
+// called fork, so the child never releases it.
 bool doesNotExist(Owner thread) {
   const auto process = static_cast<pid_t>(thread >> kProcessShift);
   const auto id = static_cast<pid_t>(thread);
@@ -106,19 +106,31 @@ constinit Block firstBlock{};
 // Trivially destructible, so that calls during the end of a thread or of the process work.
 constinit thread_local Slot* ownSlot = nullptr;
 
+// Asks about at most kMaxAsked threads, since each question is a system call, and continues there the
+// next time.
 void releaseBuffersOfEndedThreads() {
+  constexpr std::size_t kMaxAsked = 8;
+  static constinit std::atomic<std::size_t> nextToAsk = 0;
+  const std::size_t first = nextToAsk;
+  std::size_t index = 0;
+  std::size_t asked = 0;
   for (Block* block = &firstBlock; block != nullptr; block = block->next) {
     for (Slot& slot : block->slots) {
       Owner owner = slot.owner.load(std::memory_order_relaxed);
-      if (owner == kUnowned || owner == kLocked) continue;
-      // The slot is locked before the system is asked. Otherwise a new thread with the number of the
-      // ended one could claim the slot between the answer and the release.
+      if (index++ < first || owner == kUnowned || owner == kLocked) continue;
+      if (asked++ == kMaxAsked) {
+        nextToAsk = index - 1;
+        return;
+      }
+      // The slot is locked before the system is asked. Otherwise, between the answer and the release,
+      // another thread could release the slot, and a new thread with the same number could claim it.
       if (!slot.owner.compare_exchange_strong(owner, kLocked)) continue;
       const bool isEnded = hasEnded(owner);
       if (isEnded) slot.releaseBuffer();
       slot.owner.store(isEnded ? kUnowned : owner);
     }
   }
+  nextToAsk = 0;
 }
 
 Block* appendBlock(Block* last) {
@@ -135,6 +147,7 @@ Slot* claimSlot() {
   for (Block* block = &firstBlock;;) {
     for (Slot& slot : block->slots) {
       Owner expected = kUnowned;
+      if (slot.owner.load(std::memory_order_relaxed) != kUnowned) continue;
       if (slot.owner.compare_exchange_strong(expected, thread)) return &slot;
     }
     Block* const next = block->next;

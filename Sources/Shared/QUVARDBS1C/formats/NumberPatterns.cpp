@@ -26,6 +26,7 @@ struct DecimalPattern {
   std::wstring_view exponentPart = {};
 
   void appendTo(auto& output) const {
+    output.reserve(static_cast<std::size_t>(std::max(decimals, 0)) + 2 + exponentPart.size());
     output.push_back(L'0');
     if (decimals > 0) {
       output.push_back(L'.');
