@@ -74,8 +74,10 @@ Namespace Global.QUVARDBS1C
         ''' step takes the first unit out of the leftmost occurrence.</summary>
         ''' <param name="chars">what to look for; empty: s comes back unchanged</param>
         ''' <remarks>With a chars of one unit, every such unit goes. The time is linear in s and
-        ''' chars, whatever they hold. With a chars above 16 units, the call needs memory for one
-        ''' number for each of their units.</remarks>
+        ''' chars, whatever they hold. If chars has more than 16 code units and is not longer than
+        ''' s, the call needs 4 * (|s| + 2 * |chars| + 3) bytes of memory for itself: up to 780
+        ''' bytes (texts of up to 64 code units need no more) on the stack, above on the
+        ''' heap.</remarks>
         ''' <example><code>VB_RemoveChar("a-b-c", "-")  ' "abc"</code></example>
         Public Function VB_RemoveChar(s As String, chars As String) As String
             Return TakeText(Dll.VB_RemoveChar(s, chars))
@@ -155,7 +157,9 @@ Namespace Global.QUVARDBS1C
 
         ''' <summary>text with every occurrence of pattern1 replaced, and then, in that result,
         ''' every occurrence of pattern2.</summary>
-        ''' <remarks>Null handles are empty strings. No argument changes.</remarks>
+        ''' <remarks>Null handles are empty strings. No argument changes. The text after the first
+        ''' replacement takes time too, but no memory as a whole. It can have |text| *
+        ''' |replacement1| code units, also where the result is short.</remarks>
         ''' <example><code>VB_Replace2("ab", "a", "b", "b", "c")  ' "cc"</code></example>
         Public Function VB_Replace2(text As String, pattern1 As String, replacement1 As String,
             pattern2 As String, replacement2 As String) As String
@@ -369,9 +373,9 @@ Namespace Global.QUVARDBS1C
 
         ''' <summary>The natural logarithm of the gamma function.</summary>
         ''' <param name="x">positive. From -6.5 up to 0 the formula runs as it is: +infinity at
-        ''' -6.5, -6 and -4 and within 4.4e-16 of -2 and 0; else NaN from -1 (and the double before
-        ''' it) up to 0, from -3 up to -2, from -5 up to -4 and from about -6.19 up to -6; far off
-        ''' from -6.5 to -6.19</param>
+        ''' -6.5, -6 and -4 and within 4.4e-16 of -2 and 0; else NaN from -1 (and the two doubles
+        ''' before it) up to 0, from -3 up to -2, from -5 up to -4 and from about -6.19 up to -6;
+        ''' far off from -6.5 to -6.19</param>
         ''' <returns>-1.79769313486231e+308 for x below -6.5; +infinity from about 2.56e305; NaN for
         ''' +infinity</returns>
         ''' <example><code>GammaLn(0.5) &gt; 0.57236494292 AndAlso GammaLn(0.5) &lt; 0.57236494293  ' True</code></example>

@@ -47,7 +47,7 @@ constexpr Owner kLocked = 1;   // a thread is asking whether the owner has ended
 
 Owner currentThread() { return reinterpret_cast<Owner>(pthread_self()); }
 
-bool doesNotExist(Owner thread) {
+[[maybe_unused]] bool doesNotExist(Owner thread) {
   return pthread_kill(reinterpret_cast<pthread_t>(thread), 0) == ESRCH;
 }
 
@@ -61,7 +61,7 @@ Owner currentThread() {
 
 // A slot that was claimed before a fork names the parent process. It may be that of the thread that
 // called fork, so the child never releases it.
-bool doesNotExist(Owner thread) {
+[[maybe_unused]] bool doesNotExist(Owner thread) {
   const auto process = static_cast<pid_t>(thread >> kProcessShift);
   const auto id = static_cast<pid_t>(thread);
   return process == getpid() && syscall(SYS_tgkill, process, id, 0) != 0 && errno == ESRCH;
