@@ -16,7 +16,7 @@ export CTEST_PARALLEL_LEVEL="${CTEST_PARALLEL_LEVEL:-$jobs}"
 # where their names differ from what is before them; "xcode" comes with Apple's command line tools.
 build_needs=(c++:g++:xcode make:make:xcode cmake)
 test_needs=("${build_needs[@]}" gtest/gtest.h:libgtest-dev:googletest pkg-config:pkg-config:pkgconf
-  /usr/share/i18n/locales/tr_TR:locales)
+  python3:python3:python /usr/bin/gbs3:gambas3-scripter /usr/share/i18n/locales/tr_TR:locales)
 docs_needs=(doxygen dot:graphviz linkchecker markdown_py:python3-markdown)
 report_needs=(python3:python3:python)
 benchmark_needs=(
@@ -44,6 +44,7 @@ bits_needs=("${test_needs[@]}" "${compiler_needs[@]}" "${libcxx_needs[@]}"
   /usr/lib/python3/dist-packages/gmpy2:python3-gmpy2)
 accuracy_needs=(mpfr.h:libmpfr-dev:mpfr boost/multiprecision/mpfr.hpp:libboost-dev:boost)
 coverage_needs=(gcov:gcc gcovr)
+nuget_needs=("${arm_needs[@]}" "${macos_needs[@]}")
 mutation_needs=("${report_needs[@]}")
 package_needs=("${build_needs[@]}" dpkg-shlibdeps:dpkg-dev:dpkg debootstrap lintian)
 
@@ -73,6 +74,15 @@ known_arguments() {
 }
 
 as_root() { if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi; }
+
+# pack_nuget CHECKOUT NATIVE FOLDER: packs the project in Hosts/NuGet of a checkout with the native
+# libraries in NATIVE into FOLDER.
+pack_nuget() {
+  DOTNET_CLI_TELEMETRY_OPTOUT=1 quietly dotnet msbuild "$1/Hosts/NuGet/QUVARDBS1C.vbproj" \
+    -restore -target:Pack -nologo -verbosity:quiet -nodeReuse:false -p:UseSharedCompilation=false \
+    -p:Configuration=Release "-p:NativeFolder=$2" "-p:PackageOutputPath=$3" \
+    "-p:BaseIntermediateOutputPath=$3/obj/" "-p:OutDir=$3/bin/"
+}
 
 # Runs a command and shows its output only if it fails.
 quietly() {

@@ -17,23 +17,20 @@ find "$folder/../$part-installed" -name 'QUVARD*.dll' -exec mv {} . ';'
 find "$folder/../$part-installed" -name 'QUVARD*.vb' -exec mv {} . ';'
 [ "$#" -eq 0 ] || { rm QUVARDBS1C.vb && cp -- "$@" .; }
 
-# The lines of a language's blocks, each after the number of its block: of those that begin with
-# Imports if the second argument is 1, of the others if it is 0.
+# blocks LANGUAGE [START]: see blocks.awk. Programs begin with Imports.
 blocks() {
-  awk -v language="$1" -v programs="$2" '
-    /^```/ { inside = !inside && $0 == "```" language; fresh = inside; next }
-    inside && fresh { fresh = 0; taken = ($0 ~ /^Imports/) == programs; if (taken) ++block }
-    inside && taken { print block "\t" $0 }' "$root/docs/from-a-macro.md" "$root/README.md"
+  awk -v "language=$1" -v "start=${2:-}" -f "$root/Tests/docs/blocks.awk" \
+    "$root/docs/from-a-macro.md" "$root/README.md"
 }
 
-blocks xml 0 | cut -f 2- >FirstCall.vbproj
+blocks xml | cut -f 2- >FirstCall.vbproj
 case $part in
-  first) blocks vb 1 | cut -f 2- >FirstCall.vb ;;
+  first) blocks vb ^Imports | cut -f 2- >FirstCall.vb ;;
   snippets)
     # Each block has variables of its own.
     {
       printf 'Imports QUVARDBS1C.Routines\nModule Page\n  Sub Main()\n'
-      blocks vb 0 | awk -F '\t' '
+      blocks vb '^[^I]' | awk -F '\t' '
         $1 != block { if (block) print "End If"; block = $1; print "If True Then" }
         { print $2 }
         END { print "End If" }'
@@ -43,7 +40,7 @@ case $part in
   applications)
     {
       printf 'Imports QUVARDBS1C.Routines\nModule Page\n  Sub Main()\n    FirstCall()\n  End Sub\n'
-      blocks vba 0 | cut -f 2- | sed "s/Debug\.Print \(.*\)  '/Console.WriteLine(\1)  '/"
+      blocks vba | cut -f 2- | sed "s/Debug\.Print \(.*\)  '/Console.WriteLine(\1)  '/"
       printf 'End Module\n'
     } >FirstCall.vb
     ;;
