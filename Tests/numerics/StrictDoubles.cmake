@@ -10,7 +10,8 @@ macro(expect_refusal option)
     string(APPEND failures "\nnot refused with ${option}: ${ARGN}")
   endif()
 endmacro()
-set(compile "${COMPILER}" -std=c++20 -E "-I${library}" "-I${ROOT}/Sources/Shared/QUVARDCR1C")
+set(compile "${COMPILER}" -std=c++20 -E "-I${library}" "-I${ROOT}/Sources/Shared/QUVARDCR1C"
+  "-I${GENERATED}")
 
 file(GLOB_RECURSE sources "${library}/*.cpp")
 list(FILTER sources EXCLUDE REGEX "/Swaps.cpp$")  # moves doubles, computes nothing
