@@ -19,12 +19,8 @@ test_needs=("${build_needs[@]}" gtest/gtest.h:libgtest-dev:googletest pkg-config
   python3:python3:python /usr/bin/gbs3:gambas3-scripter /usr/share/i18n/locales/tr_TR:locales)
 docs_needs=(doxygen dot:graphviz linkchecker markdown_py:python3-markdown)
 report_needs=(python3:python3:python)
-benchmark_needs=(
-  benchmark/benchmark.h:libbenchmark-dev:google-benchmark
-  boost/algorithm/string.hpp:libboost-dev:boost
-  gtest/gtest.h:libgtest-dev:googletest
-  unicode/unistr.h:libicu-dev:icu4c
-)
+benchmark_needs=(benchmark/benchmark.h:libbenchmark-dev:google-benchmark boost/algorithm/string.hpp:libboost-dev:boost
+  gtest/gtest.h:libgtest-dev:googletest unicode/unistr.h:libicu-dev:icu4c)
 # What the parts of scripts/check need beside these.
 compiler_needs=(g++:g++:xcode clang++:clang:xcode)
 format_needs=(clang-format)
@@ -49,13 +45,11 @@ mutation_needs=("${report_needs[@]}")
 package_needs=("${build_needs[@]}" dpkg-shlibdeps:dpkg-dev:dpkg debootstrap lintian)
 
 say() { printf '%s\n' "$@" >&2; }
-
-# Says lines, and ends.
 fail() { say "$@"; exit 1; }
+as_root() { if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi; }
 
 # Prints the comment at the top of the script.
 help() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"; }
-
 help_if_asked() { if [ "${1:-}" = --help ]; then help; exit; fi; }
 
 # bad_argument TEXT: says what is wrong with the arguments, and ends.
@@ -72,8 +66,6 @@ known_arguments() {
       bad_argument "unknown argument \"$argument\""
   done
 }
-
-as_root() { if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi; }
 
 # pack_nuget CHECKOUT NATIVE FOLDER: packs the project in Hosts/NuGet of a checkout with the native
 # libraries in NATIVE into FOLDER.
