@@ -52,7 +52,7 @@ if(PROJECT_IS_TOP_LEVEL)
     "quvardbs1c (${PROJECT_VERSION}) unstable; urgency=medium\n${changes} -- ${maintainer}  ${date}\n")
   execute_process(COMMAND gzip -9nf "${changelog}")
   install(FILES "${changelog}.gz" DESTINATION "${docDir}" COMPONENT packages EXCLUDE_FROM_ALL)
-  install(FILES cmake/lintian-overrides DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides"
+  install(FILES cmake/quvardbs1c.lintian-overrides DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides"
     RENAME quvardbs1c COMPONENT packages EXCLUDE_FROM_ALL)
 
   set(CPACK_GENERATOR TGZ DEB)
