@@ -40,10 +40,11 @@ install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/InstallPaths.cmake")
 
 # A parent project makes packages of its own.
 if(PROJECT_IS_TOP_LEVEL)
-  # The section of the newest version, in Debian's form; in packages alone.
+  # The section of this version, in Debian's form; in packages alone.
   file(READ CHANGELOG.md changes)
-  string(REGEX MATCH "\n## [^#]*" changes "${changes}")
-  string(REGEX REPLACE "\n## [^\n]*" "" changes "${changes}")
+  string(REGEX REPLACE "^.*\n## ${PROJECT_VERSION}\n" "\n" changes "${changes}")
+  string(FIND "${changes}" "\n## " end)
+  string(SUBSTRING "${changes}" 0 ${end} changes)
   string(REGEX REPLACE "\n([^\n])" "\n  \\1" changes "${changes}")
   file(TIMESTAMP CHANGELOG.md date "%a, %d %b %Y %H:%M:%S +0000" UTC)
   set(maintainer "The QUVARDBS1C developers <maintainers@users.noreply.invalid>")
