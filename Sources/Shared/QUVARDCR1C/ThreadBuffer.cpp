@@ -174,9 +174,13 @@ void replaceBuffer(std::size_t size) {
 }  // namespace
 
 wchar_t* threadBuffer(std::size_t size) {
-  const std::size_t capacity = ownSlot == nullptr ? 0 : ownSlot->capacity;
-  if (size > capacity || (capacity > kMaxIdleCapacity && size <= kMaxIdleCapacity)) {
+  if (ownSlot == nullptr) {
     replaceBuffer(size);
+  } else {
+    const std::size_t capacity = ownSlot->capacity;
+    if (size > capacity || (capacity > kMaxIdleCapacity && size <= kMaxIdleCapacity)) {
+      replaceBuffer(size);
+    }
   }
   return ownSlot->units;
 }
