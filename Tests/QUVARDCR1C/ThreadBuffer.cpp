@@ -38,6 +38,8 @@ void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
 void __libc_free(void* memory);
 
+// Without default visibility the libraries would not see these definitions.
+#pragma GCC visibility push(default)
 void* malloc(std::size_t size) { return isToFail() ? nullptr : count(__libc_malloc(size)); }
 void* calloc(std::size_t n, std::size_t size) {
   return isToFail() ? nullptr : count(__libc_calloc(n, size));
@@ -51,6 +53,7 @@ void free(void* memory) {
   if (memory != nullptr) --liveAllocations;
   __libc_free(memory);
 }
+#pragma GCC visibility pop
 }
 
 namespace {
