@@ -547,27 +547,41 @@ Namespace Global.QUVARDBS1C
         ''' <param name="text">text to search; it stays as it is</param>
         ''' <param name="pattern">what to look for; Nothing: the result is text</param>
         ''' <param name="replacement">what to put in its place; Nothing: nothing</param>
-        ''' <param name="result">tells what the library did to its copy of text</param>
         ''' <returns>new String; Nothing if text is Nothing</returns>
         ''' <example><code>VB_Replace("a-b-c", "-", "--")  ' "a--b--c"</code></example>
-        Public Function VB_Replace(text As String, pattern As String, replacement As String,
-            Optional ByRef result As ReplaceResult = ReplaceResult.NewString) As String
+        Public Function VB_Replace(text As String, pattern As String,
+            replacement As String) As String
             Dim copy = HostString(text)
             Dim handle = Dll_VB_Replace(copy, pattern, replacement)
-            Dim replaced = TakeText(handle)
-            result = ReplaceResult.TextItself
-            If handle <> copy Then
-                ' The library writes to its text where pattern and replacement are one code unit each.
-                Dim first = -1
-                If replaced.Length <= text.Length AndAlso pattern.Length > 0 Then
-                    first = text.IndexOf(pattern(0))
-                End If
-                Dim isChanged = first >= 0 AndAlso first < replaced.Length AndAlso
-                    (Marshal.ReadInt16(copy, 2 * first) And &HFFFF) <> AscW(text(first))
-                result = If(isChanged, ReplaceResult.TextChanged, ReplaceResult.NewString)
-                releaseBSTR(copy)
+            If handle <> copy Then releaseBSTR(copy)
+            Return TakeText(handle)
+        End Function
+
+        ''' <summary>Replaces every occurrence of pattern in text, and tells what the library did.</summary>
+        ''' <param name="text">text to search; it stays as it is</param>
+        ''' <param name="pattern">what to look for; Nothing: the result is text</param>
+        ''' <param name="replacement">what to put in its place; Nothing: nothing</param>
+        ''' <param name="result">tells what the library did to its copy of text</param>
+        ''' <returns>new String; Nothing if text is Nothing</returns>
+        ''' <example><code>Dim r As ReplaceResult : VB_Replace("a-b-c", "-", "+", r)  ' r = ReplaceResult.TextChanged</code></example>
+        Public Function VB_Replace(text As String, pattern As String, replacement As String,
+            ByRef result As ReplaceResult) As String
+            Dim replaced = VB_Replace(text, pattern, replacement)
+            If text Is Nothing OrElse pattern Is Nothing Then
+                result = ReplaceResult.TextItself
+            ElseIf IsOneUnit(pattern) AndAlso IsOneUnit(replacement) AndAlso
+                Not text.StartsWith(replaced, StringComparison.Ordinal) Then
+                result = ReplaceResult.TextChanged
+            Else
+                result = ReplaceResult.NewString
             End If
             Return replaced
+        End Function
+
+        ' A text ends at its first zero unit.
+        Private Function IsOneUnit(text As String) As Boolean
+            Return text IsNot Nothing AndAlso text.Length > 0 AndAlso AscW(text(0)) <> 0 AndAlso
+                (text.Length = 1 OrElse AscW(text(1)) = 0)
         End Function
 
         <DllImport(Library, EntryPoint:="VB_Replace", CharSet:=CharSet.Unicode, ExactSpelling:=True)>

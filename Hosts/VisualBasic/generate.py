@@ -276,7 +276,7 @@ def page(file):
     for text, name, rest in re.findall(members, declarations("QUVARDBS1C.vb", declare_net)):
         code = unescape(re.search("<example><code>(.*)</code>", text)[1])
         summary = re.search("<summary>(.*)</summary>", " ".join(re.sub("'''", "", text).split()))[1]
-        rows[name] = f"| `{name}{' '.join(rest.split())}` | {summary} | `{code}` |\n"
+        rows[name] = rows.get(name, "") + f"| `{name}{' '.join(rest.split())}` | {summary} | `{code}` |\n"
     result = template(file)
     topics = [(title, [r.title for r in routines]) for title, routines in read_header()]
     helpers = rows.keys() - {name for _, names in topics for name in names}
