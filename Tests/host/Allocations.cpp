@@ -179,7 +179,7 @@ TEST(Allocations, OfRemoveCharAreAsItsContractSays) {
 
 TEST(Allocations, NoneForATextThatIsMovedInAndDoesNotGrow) {
   const auto expectAllocations = [](long expected, const char* call, auto routine) {
-    Text text(500, L'a');
+    Text text(503, L'a');  // a capacity that libc++ does not round up
     const long before = allocations;
     const Text result = routine(text);
     EXPECT_EQ(allocations - before, expected) << call;
