@@ -1,9 +1,9 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by the scripts beside it. Nothing here writes to the standard output.
+# Sourced by the other scripts. Writes nothing to the standard output.
 
 root=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
 
-# The folder for all that is built.
+# The build folder.
 build=${QUVARDBS1C_BUILD_DIR:-$root/build}
 case $build in /*) ;; *) build=$PWD/$build ;; esac
 
@@ -11,9 +11,9 @@ jobs=$(getconf _NPROCESSORS_ONLN)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$jobs}"
 export CTEST_PARALLEL_LEVEL="${CTEST_PARALLEL_LEVEL:-$jobs}"
 
-# What a script needs, as NEED:PACKAGE:FORMULA. NEED is a command, a header below an include folder, or
-# a path on Debian, which is not looked for elsewhere. PACKAGE is Debian's and FORMULA Homebrew's,
-# where their names differ from what is before them; "xcode" comes with Apple's command line tools.
+# Requirements of the scripts, as NEED:PACKAGE:FORMULA. NEED is a command, a header in an include folder,
+# or a path, which is only checked on Debian. PACKAGE is the Debian package, by default NEED. FORMULA is
+# the Homebrew formula, by default PACKAGE; "xcode" means Apple's command line tools.
 build_needs=(c++:g++:xcode make:make:xcode cmake)
 test_needs=("${build_needs[@]}" gtest/gtest.h:libgtest-dev:googletest pkg-config:pkg-config:pkgconf
   python3:python3:python /usr/bin/gbs3:gambas3-scripter /usr/share/i18n/locales/tr_TR:locales)
@@ -21,7 +21,7 @@ docs_needs=(doxygen dot:graphviz linkchecker markdown_py:python3-markdown)
 report_needs=(python3:python3:python)
 benchmark_needs=(benchmark/benchmark.h:libbenchmark-dev:google-benchmark boost/algorithm/string.hpp:libboost-dev:boost
   gtest/gtest.h:libgtest-dev:googletest unicode/unistr.h:libicu-dev:icu4c)
-# What the parts of scripts/check need beside these.
+# Additional requirements of single checks.
 compiler_needs=(g++:g++:xcode clang++:clang:xcode)
 format_needs=(clang-format)
 tidy_needs=(clang-tidy:clang-tidy:llvm)
@@ -52,13 +52,13 @@ as_root() { if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi; }
 help() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"; }
 help_if_asked() { if [ "${1:-}" = --help ]; then help; exit; fi; }
 
-# bad_argument TEXT: says what is wrong with the arguments, and ends.
+# bad_argument MESSAGE: prints what is wrong with the arguments and exits.
 bad_argument() {
   say "scripts/${0##*/}: $1 (see scripts/${0##*/} --help)"
   exit 2
 }
 
-# Ends unless each argument begins an indented line of the help.
+# Exits unless each argument starts an indented line of the help text.
 known_arguments() {
   local argument
   for argument in "$@"; do
@@ -84,41 +84,41 @@ quietly() {
   return "$status"
 }
 
-# Ends with a message where nothing can be built.
+# Exits with a message if nothing can be built here.
 need_build_folder() {
   local folder free
-  case $root$build in *\"*) fail "CMake builds in no path with a double quote: $root, $build" ;; esac
+  case $root$build in *\"*) fail "CMake cannot build in a path with a double quote: $root, $build" ;; esac
   mkdir -p -- "$build" 2>/dev/null || true
   [ -w "$build" ] ||
-    fail "Cannot write to $build. Name another folder for what is built, for instance:" \
+    fail "Cannot write to $build. Name another build folder, for example:" \
       "  QUVARDBS1C_BUILD_DIR=\"\$HOME/quvardbs1c-build\" $0"
   for folder in "$build" "${TMPDIR:-/tmp}"; do
     free=$(df -Pk -- "$folder" | awk 'END { print int($4 / 1024) }')
     [ "$free" -ge 200 ] ||
       fail "The disk is full: $folder has $free MB free, and a build needs 200 MB." \
-        "QUVARDBS1C_BUILD_DIR names another folder for what is built, TMPDIR for temporary files."
+        "QUVARDBS1C_BUILD_DIR names another build folder, TMPDIR another folder for temporary files."
   done
 }
 
-# configure TREE PRESET [ARGUMENTS OF CMAKE]...: a build tree below the build folder. One that was
-# moved, or whose compiler has gone, starts afresh.
+# configure TREE PRESET [CMAKE ARGUMENT]...: configures $build/TREE. If that fails, because the tree was
+# moved or its compiler removed, starts with an empty cache.
 configure() {
   local cmake=(cmake -S "$root" -B "$build/$1" --preset "$2" "${@:3}")
   (cd -- "$root" && "${cmake[@]}") >/dev/null 2>&1 ||
     (cd -- "$root" && quietly "${cmake[@]}" --fresh)
 }
 
-# compile TREE [ARGUMENTS OF CMAKE]...: shows every tenth step, and the errors if it fails.
+# compile TREE [CMAKE ARGUMENT]...: shows every tenth step, and the errors if it fails.
 compile() {
   local log=$build/$1/build.log status=0
   cmake --build "$build/$1" "${@:2}" 2>&1 | tee -- "$log" |
     awk '/^\[/ && ++steps % 10 == 1 { print; fflush() }' >&2 || status=$?
   [ "$status" -eq 0 ] || say "$(grep -v '^\[' "$log" | head -n 40)" \
-    "Failed with status $status: cmake --build $build/$1 ${*:2} (all it printed is in $log)"
+    "Failed with status $status: cmake --build $build/$1 ${*:2} (complete output: $log)"
   return "$status"
 }
 
-# copy_checkout FOLDER: the checkout without what was built; FOLDER/build stays.
+# copy_checkout FOLDER: copies the checkout without build and .git; keeps FOLDER/build.
 copy_checkout() {
   mkdir -p -- "$1"
   find "$1" -mindepth 1 -maxdepth 1 ! -name build -exec rm -rf -- {} +
@@ -127,16 +127,16 @@ copy_checkout() {
 
 on_macos() { [ "$(uname -s)" = Darwin ]; }
 
-# Whether the .NET SDK is there, from version 8 on, which programs in Visual Basic need.
+# Whether the .NET SDK, version 8 or newer, is installed; programs in Visual Basic need it.
 has_dotnet() { dotnet --list-sdks 2>/dev/null | grep -qE '^([89]|[1-9][0-9])\.'; }
 
 require_dotnet() {
   has_dotnet || fail "Missing: dotnet, the .NET SDK, version 8 or newer" \
-    "Install it as its maker, Microsoft, tells, then run this again. Debian has no package of it;" \
+    "Install it from Microsoft, then run this again. Debian has no package of it;" \
     "Homebrew has: brew install dotnet"
 }
 
-# Looks where CMake looks: in its own variable, beside the folders of PATH, in the usual places.
+# Searches where CMake does: CMAKE_PREFIX_PATH, the parents of PATH's folders, the default prefixes.
 has_header() {
   local prefix IFS=:
   for prefix in ${CMAKE_PREFIX_PATH:-} $PATH /usr/bin /usr/local/bin /opt/homebrew/bin; do
@@ -146,7 +146,7 @@ has_header() {
   return 1
 }
 
-# Whether a need of the tables above is there.
+# Whether a NEED of the tables above is installed.
 has() {
   local oldest=3.25
   case $1 in
@@ -158,14 +158,14 @@ has() {
   esac
 }
 
-# Sets what is missing of the rows given, and the Debian packages and Homebrew formulas of that.
+# Sets missing to the missing needs of the given rows, and packages and formulas to what supplies them.
 look_for() {
   local row need package formula
   missing='' packages='' formulas=''
   for row in "$@"; do
     IFS=: read -r need package formula <<<"$row"
     package=${package:-$need} formula=${formula:-${package:-$need}}
-    # Without the command line tools, macOS has compilers in name only.
+    # Without the command line tools, the compilers of macOS are placeholders.
     if [ "$formula" = xcode ] && on_macos; then xcode-select -p >/dev/null 2>&1; else has "$need"; fi &&
       continue
     missing+="${missing:+,} ${need/#cmake/cmake 3.25 or newer}"
@@ -174,7 +174,7 @@ look_for() {
   done
 }
 
-# Makes sure of the rows given: installs what is missing, or says what to install and ends.
+# Installs what is missing of the given rows, or says what to install and exits.
 set_up() {
   local advice=''
   look_for "$@"
@@ -190,11 +190,11 @@ set_up() {
   [ -z "$advice" ] || fail "Missing:$missing" "Install it, then run this again." "  $advice"
 
   say "Installing$packages with apt-get; this may take some minutes."
-  quietly as_root apt-get update || say "Going on with the package lists at hand."
+  quietly as_root apt-get update || say "Continuing with the present package lists."
   # shellcheck disable=SC2086
   quietly as_root env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends $packages ||
     fail "apt-get could not install$packages."
   hash -r
   look_for "$@"
-  [ -z "$missing" ] || fail "Missing:$missing" "This system's packages do not supply it: install it from elsewhere."
+  [ -z "$missing" ] || fail "Missing:$missing" "The packages of this system do not contain it. Install it from another source."
 }
