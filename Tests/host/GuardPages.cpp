@@ -77,6 +77,35 @@ TEST_EACH_HOST_ROUTINE(GuardPages) {
   }
 }
 
+// A 16-bit text may begin anywhere in a block that a service reads at once. Here its first or last block
+// is that of a page, without memory before or behind the page.
+TEST(Services, GuardPages) {
+  constexpr std::size_t kBlockUnits = 8;
+  const std::u16string zeros(kSize / sizeof(char16_t), 0);
+  char16_t* const page = hold(1, std::span(zeros), true);
+  for (std::size_t size = 0; size <= 300; ++size) {
+    const Text text(size, L'a');
+    for (std::size_t gap = 0; gap < kBlockUnits; ++gap) {
+      for (const std::size_t start : {gap, zeros.size() - size - 1 - gap}) {
+        // Zero units before the text and none behind it: neither end may be taken for the other.
+        std::fill_n(page, zeros.size(), u'\0');
+        std::fill(std::fill_n(page + start, size, u'a') + 1, page + zeros.size(), u'x');
+        BSTR handle = page + start;
+        const auto describe = [&] {
+          return "16-bit text of " + std::to_string(size) + " from unit " + std::to_string(start);
+        };
+        named(describe, [&] {
+          EXPECT_EQ(wcslen16(handle), size) << describe();
+          EXPECT_EQ(CW162W32(handle), text) << describe();
+          EXPECT_EQ(convertBSTRtoWstring(handle), text) << describe();
+          EXPECT_EQ(take(SysAllocString16(handle)), text) << describe();
+        });
+        if (testing::Test::HasFailure()) return;
+      }
+    }
+  }
+}
+
 // Where a routine takes wide text by a pointer, and where it writes.
 TEST(Replace, GuardPages) {
   for (std::size_t size = 0; size <= 300; ++size) {

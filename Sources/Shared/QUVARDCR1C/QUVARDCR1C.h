@@ -2,8 +2,12 @@
 /// Host strings: how they are made, read and released.
 ///
 /// A host string (`BSTR`) is one pointer to the first unit of a run of 16-bit units that ends at
-/// its first zero unit. Nothing before that pointer is ever read, so any zero-terminated run of
-/// 16-bit units may be given where a service takes a host string.
+/// its first zero unit. The pointer is aligned to 2 bytes. Nothing before it is ever read, so any
+/// zero-terminated run of 16-bit units may be given where a service takes a host string.
+///
+/// On x86 processors the services read texts of more than 7 units in blocks of 16 bytes, aligned to
+/// 16 bytes. So up to 14 bytes after the terminating zero unit may be read. They are on the same page
+/// of memory, and their values have no effect.
 ///
 /// Units pass one for one. On the way in each 16-bit unit becomes one wide unit of the same value,
 /// and no surrogate pair is folded, so positions and lengths mean the same on both sides. On the
@@ -46,14 +50,14 @@ typedef uint_least16_t QUVARDUnit16;
 
 /// A new host string with the units at @p units, which end at their first zero unit.
 ///
-/// @param units  zero-terminated 16-bit units; null gives a new empty string
+/// @param units  zero-terminated 16-bit units, aligned to 2 bytes; null gives a new empty string
 /// @return       new host string, which the caller owns and gives to releaseBSTR()
 /// @throws std::bad_alloc
 QUVARDCR1C_API BSTR SysAllocString16(const QUVARDUnit16* units);
 
 /// The number of units before the terminating zero unit. Does not throw.
 ///
-/// @param units  zero-terminated 16-bit units, not null
+/// @param units  zero-terminated 16-bit units, aligned to 2 bytes, not null
 QUVARDCR1C_API size_t wcslen16(const QUVARDUnit16* units);
 
 /// Releases a host string that a service or a host routine made; null is allowed. Does not throw.
