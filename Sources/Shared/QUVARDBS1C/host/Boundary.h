@@ -39,6 +39,10 @@ inline std::u16string_view codeUnits(BSTR handle) {
 }
 
 inline BSTR newHostString(TextBuffer& text) { return SysAllocString2(text.c_str()); }
+// From a part of the text, without another copy of it.
+inline BSTR newHostString(TextBuffer& text, std::wstring_view part) {
+  return SysAllocString2(text.c_str(part));
+}
 // A view may be part of the sibling library's buffer, which is not null-terminated there.
 inline BSTR newHostString(std::wstring_view text) {
   return SysAllocString2(TextBuffer(text).c_str());

@@ -66,6 +66,12 @@ class BasicTextBuffer {
     units_[size_] = 0;
     return units_;
   }
+  // The same for a part of the text, which overwrites the code unit after the part.
+  const wchar_t* c_str(std::wstring_view part) {
+    if (part.empty()) return L"";
+    units_[part.data() + part.size() - units_] = 0;
+    return part.data();
+  }
   operator std::wstring_view() const { return {units_, size_}; }
   operator std::span<wchar_t>() { return {units_, size_}; }
 

@@ -1,5 +1,10 @@
 #include "strings/Replacement.h"
 
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,6 +22,25 @@ std::wstring replaceIn(const std::wstring& text, std::wstring_view pattern,
   result.reserve(text.size());
   Replacer<wchar_t>(pattern, replacement).append(std::wstring_view(text), result);
   return result;
+}
+
+// Replaces one code unit by another in the caller's text. Does not write to a text without the unit, which
+// may be in read-only memory.
+void replaceUnit(std::span<char16_t> text, char16_t pattern, char16_t replacement) {
+  if (pattern == replacement) return;
+  for (std::size_t start = 0; start < text.size(); start += quvard::kMatchedUnits) {
+    const std::span stretch =
+        text.subspan(start, std::min(text.size() - start, quvard::kMatchedUnits));
+    uint64_t found = quvard::matches(std::u16string_view(stretch.data(), stretch.size()), pattern);
+    if (found != 0 && stretch.size() == quvard::kMatchedUnits) {
+      // Without a branch for each occurrence.
+      for (char16_t& unit : stretch) unit = unit == pattern ? replacement : unit;
+      continue;
+    }
+    for (; found != 0; found &= found - 1) {
+      stretch[static_cast<std::size_t>(std::countr_zero(found))] = replacement;
+    }
+  }
 }
 
 }  // namespace
@@ -40,14 +64,7 @@ BSTR VB_Replace(BSTR text, BSTR pattern, BSTR replacement) {
     Replacer(patternUnits, replacementUnits).append(textUnits, result);
     return newHostString(result);
   }
-  // One code unit by one: in the caller's text. Only what changes is written, since the text may be
-  // on a page that cannot be written to.
-  const char16_t unit = replacementUnits.front();
-  if (patternUnits.front() != unit) {
-    quvard::PatternSearch(patternUnits).forEach(textUnits, [=](std::size_t at) {
-      text[at] = unit;
-    });
-  }
+  replaceUnit({text, textUnits.size()}, patternUnits.front(), replacementUnits.front());
   return SysAllocString16(text);
 }
 

@@ -78,9 +78,9 @@ BSTR StrBetween(BSTR text, int32_t from, int32_t to) {
 }
 
 BSTR StrFromChrToChr(BSTR text, BSTR opening, BSTR closing) {
-  const TextBuffer wide(wideText(text));
+  TextBuffer wide(wideText(text));
   const TextBuffer wideOpening(wideText(opening));
-  return quvard::newHostString(fromChrToChr(wide, wideOpening, wideText(closing)));
+  return newHostString(wide, fromChrToChr(wide, wideOpening, wideText(closing)));
 }
 
 BSTR StrBetweenChrAndChr(BSTR text, BSTR opening, BSTR closing) {
