@@ -22,6 +22,10 @@ namespace {
 // the processor cannot predict.
 std::size_t copyIf(auto text, wchar_t* out, auto keep) {
   const wchar_t* const start = out;
+#ifndef __clang__
+// A short loop takes up to a third longer where it happens to cross a cache line.
+#pragma GCC unroll 4
+#endif
   for (const auto unit : text) {
     *out = static_cast<wchar_t>(unit);
     out += keep(unit) ? 1 : 0;
