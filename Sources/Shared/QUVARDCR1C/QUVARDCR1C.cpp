@@ -114,8 +114,8 @@ BSTR SysAllocString2(const wchar_t* units) {
   char16_t* const out = result.get();
   std::uint32_t seen = 0;
 #ifndef __clang__
-#pragma GCC \
-    unroll 4  // A short loop takes up to twice as long where it happens to cross a cache line.
+// A short loop takes up to twice as long where it happens to cross a cache line.
+#pragma GCC unroll 4
 #endif
   for (std::size_t i = 0; i < length; ++i) {
     seen |= valueOf(units[i]);
