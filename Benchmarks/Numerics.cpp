@@ -62,7 +62,7 @@ double boostChoose(double n, double k) {
 void addCombinatorics() {
   const auto numbers = rowsOf([](auto& random) { return std::tuple{between(random, 0, 170)}; });
   NumericJob("Fact", Fact, numbers, 1e-12)
-      .add("reference", stepwise::Fact)
+      .add("reference", reference::Fact)
       .add("Boost",
            [](int32_t n) { return boost::math::factorial<double>(static_cast<unsigned>(n)); });
 
@@ -71,13 +71,13 @@ void addCombinatorics() {
     return std::tuple<double, double>{n, between(random, 0, n)};
   });
   const auto addChoose = [](const char* name, const Rows<double, double>& rows) {
-    NumericJob(name, Cnk, rows, 1e-9).add("reference", stepwise::Cnk).add("Boost", boostChoose);
+    NumericJob(name, Cnk, rows, 1e-9).add("reference", reference::Cnk).add("Boost", boostChoose);
   };
   addChoose("Cnk, n up to 66", coefficients);
   addChoose("Cnk(100, 50)", {{100, 50}});
   addChoose("Cnk(1000, 500)", {{1000, 500}});
   const auto addSum = [](const char* name, double n) {
-    NumericJob(name, SumCnk, {{n, 0.0, n}}).add("reference", stepwise::SumCnk);
+    NumericJob(name, SumCnk, {{n, 0.0, n}}).add("reference", reference::SumCnk);
   };
   addSum("SumCnk(100, 0, 100)", 100);
   addSum("SumCnk(1000, 0, 1000)", 1000);
@@ -92,11 +92,11 @@ void addDivisors() {
     const double a = between(random, 1, 99999) / 100.0;
     return std::tuple{a, between(random, 1, 99999) / 100.0};
   });
-  NumericJob("Mod", Mod, integers).add("reference", stepwise::Mod);
+  NumericJob("Mod", Mod, integers).add("reference", reference::Mod);
   NumericJob("LCD", LCD, integers)
-      .add("reference", stepwise::LCD)
+      .add("reference", reference::LCD)
       .add("std", [](int32_t a, int32_t b) { return std::gcd(a, b); });
-  NumericJob("LCDDbl", LCDDbl, decimals).add("reference", stepwise::LCDDbl);
+  NumericJob("LCDDbl", LCDDbl, decimals).add("reference", reference::LCDDbl);
 }
 
 void addGamma() {

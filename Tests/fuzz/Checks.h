@@ -1,14 +1,13 @@
-// What is fuzzed: calls with random arguments, compared with the references.
+// Checks of calls with random arguments against the references, for fuzz targets and tests.
 #ifndef TESTS_FUZZ_CHECKS_H
 #define TESTS_FUZZ_CHECKS_H
 
 #include <vector>
 
-#include "support/Expectations.h"
+#include "support/HostRoutines.h"
 #include "support/Random.h"
-#include "support/Stepwise.h"
 
-// Draws the arguments of a routine, calls it and tells what differs.
+// Calls a routine with random arguments and compares the result with the reference.
 struct Check {
   std::string routine;
   std::function<testing::AssertionResult(Random&)> run;
@@ -16,33 +15,17 @@ struct Check {
 using Checks = std::vector<Check>;
 
 // The checks of each fuzz target.
-const Checks& checksOfHostRoutines();
-const Checks& checksOfWideRoutines();
-const Checks& checksOfFormats();
+const Checks& checksOfTexts();
 const Checks& checksOfNumerics();
 const Checks& checksOfSequences();
 
-// One of them.
+// Runs one of the checks.
 inline testing::AssertionResult checkAny(const Checks& checks, Random& random) {
   return checks[random.below(checks.size())].run(random);
 }
 
-// Both forms of SetFormat, on an array of 8.
-testing::AssertionResult checkFormatsOf(int32_t count, int32_t digits, int32_t digitsOverride);
-
-// An element of a list of checks, which compares a routine with its reference. The file has a
-// function drawArguments(random) and the names of what it returns, ARGUMENTS.
-#define CHECK(routine, ...) CHECK_GIVES(routine, stepwise::routine(__VA_ARGS__), __VA_ARGS__)
-#define CHECK_GIVES(routine, expected, ...)                     \
-  {                                                             \
-#routine, [](Random& random) {                                \
-      const auto& [ARGUMENTS] = drawArguments(random);            \
-      return GIVES(routine, expected, __VA_ARGS__);               \
-    } \
-  }
-
-// A part of a text: units, words that mean something, or units of another text.
-inline Text drawPart(Random& random, const std::vector<Text>& others) {
+// A part of a text: random code units, a word with a meaning, or a part of another text.
+inline Text drawPart(Random& random, const Texts& others) {
   static const Texts alphabets{L"ab",
                                L" :;a",
                                L"<BRQMC>",
@@ -54,18 +37,18 @@ inline Text drawPart(Random& random, const std::vector<Text>& others) {
                            L"JP", L"CS", L"CN", L"<BR>", L"<QM>", L"<CM>"};
   const std::size_t choice = random.below(alphabets.size() + 5);
   if (choice < alphabets.size()) {
-    const std::size_t longest[] = {3, 20, 70};
-    return random.text(alphabets[choice], longest[random.below(3)]);
+    const std::size_t maxSizes[] = {3, 20, 70};
+    return random.text(alphabets[choice], maxSizes[random.below(3)]);
   }
   if (choice == alphabets.size() || others.empty()) return words[random.below(words.size())];
   const Text& other = others[random.below(others.size())];
-  const std::size_t at = random.below(other.size() + 1);
-  return other.substr(at, random.below(other.size() - at + 1));
+  const std::size_t start = random.below(other.size() + 1);
+  return other.substr(start, random.below(other.size() - start + 1));
 }
 
-// A text in which others may well occur, and which may occur in them: of one part, or of several,
-// some of which come more than once. Not so long that two replacements would take long.
-inline Text drawText(Random& random, const std::vector<Text>& others) {
+// A text of one part or several, some of them repeated. It may contain the other texts or be part of
+// them. At most 200 code units, because the time of two replacements grows with the square.
+inline Text drawText(Random& random, const Texts& others) {
   Text text = drawPart(random, others);
   for (std::size_t joins = random.below(2) * random.below(6); joins > 0; --joins) {
     text += random.below(2) == 0 ? text : drawPart(random, others);
@@ -73,13 +56,10 @@ inline Text drawText(Random& random, const std::vector<Text>& others) {
   return text.substr(0, 200);
 }
 
-// Small ones above all.
+// Half of the integers are small.
 inline int32_t drawInteger(Random& random) {
   return random.below(2) == 0 ? static_cast<int32_t>(random.below(80)) - 8 : random.integer();
 }
-
-// Few enough for a pattern in memory.
-inline int32_t drawDecimals(Random& random) { return std::min(drawInteger(random), 400); }
 
 inline HostBool drawFlag(Random& random) {
   constexpr HostBool kFlags[] = {0, -1, 1, 0x10000, 0xFFFF, 0x18000};
@@ -87,19 +67,25 @@ inline HostBool drawFlag(Random& random) {
   return choice < std::size(kFlags) ? kFlags[choice] : random.integer();
 }
 
-// At an edge, a quarter, a power of ten, or anywhere; and then perhaps off by little.
+// An edge value, a quotient of small integers, a power of ten, or a value slightly off one of them.
 inline double drawDouble(Random& random) {
   double x = random.edge();
-  const std::size_t choice = random.below(5);
-  if (choice == 1) x = random.between(-9.0, 9.0);
-  if (choice == 2) x = drawInteger(random) * 0.25;
-  if (choice == 3) x = drawInteger(random) / std::pow(10.0, static_cast<double>(random.below(10)));
-  if (choice == 4) x = std::pow(10.0, static_cast<double>(random.below(50)) - 30.0);
-  const std::size_t off = random.below(6);
-  if (off == 0) return x + random.between(-2e-12, 2e-12);
-  if (off == 1) return x * (1.0 + random.between(-1e-4, 1e-4));
-  if (off > 2) return x;
+  const std::size_t choice = random.below(4);
+  if (choice == 1) x = drawInteger(random) * 0.25;
+  if (choice == 2) x = drawInteger(random) / std::pow(10.0, static_cast<double>(random.below(10)));
+  if (choice == 3) x = std::pow(10.0, static_cast<double>(random.below(50)) - 30.0);
+  const std::size_t offset = random.below(6);
+  if (offset == 0) return x + random.between(-2e-12, 2e-12);
+  if (offset == 1) return x * (1.0 + random.between(-1e-4, 1e-4));
+  if (offset > 2) return x;
   return std::bit_cast<double>(std::bit_cast<uint64_t>(x) + random.below(9) - 4);
+}
+
+// Patterns have at most 400 decimals, so that they fit into memory.
+inline Numbers drawNumbers(Random& random) {
+  return {drawInteger(random), drawInteger(random), std::min(drawInteger(random), 400),
+          drawFlag(random),    drawFlag(random),    drawFlag(random),
+          drawDouble(random)};
 }
 
 #endif

@@ -1,5 +1,5 @@
-// A fuzz target: some rounds of one check on each input that libFuzzer makes up. What an input leaves
-// open is random, and the same whenever that input is given.
+// A fuzz target: runs checks with the numbers that libFuzzer's input holds. After the end of the input,
+// numbers are random but the same for the same input.
 #include <random>
 #include <string_view>
 

@@ -1,10 +1,9 @@
-// The examples of the chief header and of the README, taken from their texts when the tests are
-// built.
+// The examples of QUVARDBS1C.h and of the README, which the build extracts.
 #include "support/Expectations.h"
 
 namespace {
 
-// Named by the routine and by the number of the example in the header.
+// A test of each example, named by the routine and by the number of the example.
 #define EXAMPLE(routine, ...)                                  \
   addTest(#routine, "Example" + std::to_string(__LINE__), [] { \
     [[maybe_unused]] int32_t i = 0, j = 0;                     \

@@ -1,5 +1,5 @@
-// A host that loads the library, calls it on eight threads and unloads it, again and again, while
-// those threads live; they end after it was unloaded for the last time.
+// A host that loads, calls and unloads the library repeatedly while its threads live. The threads end
+// after the last unload.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -23,29 +23,28 @@ void find(std::atomic<Function>& function, void* library, const char* name) {
   ASSERT_NE(function, nullptr) << dlerror();
 }
 
-void call(int load) {
-  for (std::size_t length = 0; length < 600; length += 7) {
-    std::u16string text = std::u16string(length, u' ') + u"x ";
+void callWithTextsOfManySizes(int load) {
+  for (std::size_t blanks = 0; blanks < 600; blanks += 7) {
+    std::u16string text = std::u16string(blanks, u' ') + u"x ";
     char16_t* const trimmed = trim.load()(text.data());
-    EXPECT_EQ(std::u16string(trimmed), u"x")
-        << "VB_StrLRTrim of an x behind " << length << " blanks, loaded " << load << " times";
+    EXPECT_EQ(std::u16string(trimmed), u"x") << blanks << " blanks, load " << load;
     release.load()(trimmed);
   }
 }
 
 }  // namespace
 
-TEST(Threads, LiveOnWhereTheLibraryIsLoadedAgain) {
-  std::barrier atSameStep(kThreads + 1);
+TEST(Threads, SurviveReloadsOfTheLibrary) {
+  std::barrier barrier(kThreads + 1);
   std::vector<std::thread> threads;
   for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([&] {
       for (int load = 1; load <= kLoads; ++load) {
-        atSameStep.arrive_and_wait();  // it is loaded
-        call(load);
-        atSameStep.arrive_and_wait();  // nobody calls it
+        barrier.arrive_and_wait();  // loaded
+        callWithTextsOfManySizes(load);
+        barrier.arrive_and_wait();  // all calls have returned
       }
-      atSameStep.arrive_and_wait();  // it is unloaded
+      barrier.arrive_and_wait();  // unloaded
     });
   }
   for (int load = 1; load <= kLoads; ++load) {
@@ -53,11 +52,12 @@ TEST(Threads, LiveOnWhereTheLibraryIsLoadedAgain) {
     ASSERT_NE(library, nullptr) << dlerror();
     ASSERT_NO_FATAL_FAILURE(find(trim, library, "VB_StrLRTrim"));
     ASSERT_NO_FATAL_FAILURE(find(release, library, "releaseBSTR"));
-    atSameStep.arrive_and_wait();
-    atSameStep.arrive_and_wait();
+    barrier.arrive_and_wait();
+    barrier.arrive_and_wait();
     EXPECT_EQ(dlclose(library), 0) << dlerror();
-    EXPECT_EQ(dlopen(QUVARD_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr) << "It is not unloaded.";
+    EXPECT_EQ(dlopen(QUVARD_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr)
+        << "The library is still loaded.";
   }
-  atSameStep.arrive_and_wait();
+  barrier.arrive_and_wait();
   for (std::thread& thread : threads) thread.join();
 }

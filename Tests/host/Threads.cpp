@@ -1,10 +1,8 @@
-// Every routine on eight threads at once, while other threads end and start, gives what it gives on
-// one. The thread sanitizer sees what they share.
+// Every routine on eight threads at once, while other threads start and end. The results are those of one
+// thread. The thread sanitizer reports data that the calls share.
 #include <thread>
 
 #include "fuzz/Checks.h"
-#include "support/HostRoutines.h"
-#include "support/Random.h"
 
 namespace {
 
@@ -15,7 +13,7 @@ struct Case {
   Text expected = routine.expected(texts);
 };
 
-// Each routine with some texts, which all threads share.
+// All threads share the arguments, so no case changes one.
 std::vector<Case> makeCases() {
   std::vector<Case> cases;
   Random random;
@@ -23,7 +21,6 @@ std::vector<Case> makeCases() {
     for (int i = 0; i < 20; ++i) {
       Texts texts(routine.strings);
       for (Text& text : texts) text = random.text(L"a :<BR>7", i % 5 == 0 ? 700 : 3);
-      // One that writes to its text may not share it.
       if (!routine.worksInPlace(texts)) cases.push_back({routine, texts});
     }
   }
@@ -43,14 +40,14 @@ TEST(Threads, EightAtOnce) {
   const std::vector<Case> cases = makeCases();
   std::vector<std::thread> threads;
   for (std::size_t i = 0; i < 8; ++i) {
-    // Each is a row of threads: one ends, the next starts, while the other seven call.
+    // Each runs 30 threads in succession.
     threads.emplace_back([&cases, i] {
       for (std::size_t round = 0; round < 30; ++round) {
         std::thread([&] {
           for (std::size_t k = 0; k < cases.size(); ++k) {
-            const Case& at = cases[(97 * i + 31 * round + k) % cases.size()];
-            EXPECT_EQ(at.routine.call(at.arguments.handles()), at.expected)
-                << at.routine.show(at.texts);
+            const Case& current = cases[(97 * i + 31 * round + k) % cases.size()];
+            EXPECT_EQ(current.routine.call(current.arguments.handles()), current.expected)
+                << current.routine.show(current.texts);
           }
           callExamples();
         }).join();
@@ -60,8 +57,7 @@ TEST(Threads, EightAtOnce) {
   for (std::thread& thread : threads) thread.join();
 }
 
-// Results go from call to call and from thread to thread.
-TEST(Threads, InRandomSequences) {
+TEST(Threads, PassHostStringsToEachOther) {
   Random random;
   for (int i = 0; i < 2000; ++i)
     ASSERT_TRUE(checkAny(checksOfSequences(), random)) << "in sequence " << i;

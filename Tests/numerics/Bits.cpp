@@ -1,10 +1,10 @@
-// QUVARDBits FOLDER [ROUTINE]: compares the numerics, or one of them, with the bits in FOLDER, which
-// numerics/bits/make.py makes. Prints the first rows that differ, and ends with status 1.
+// QUVARDBits FOLDER [ROUTINE]: compares the results of the numeric routines, or of one of them, with the
+// rows in FOLDER, which numerics/bits/make.py writes. Prints the first rows that differ and returns 1.
 //
-// This program has the mathematical functions of the platform itself, and the loader finds them first.
-// They return the correctly rounded values of functions.txt, so the rows hold bit by bit on any
-// platform, and a call that is not there is a fault. On macOS the loader does not, so platform.txt is
-// left out.
+// The program defines the platform's mathematical functions, and the loader binds the library to these
+// definitions. They return the correctly rounded values in functions.txt, so the results have the same
+// bits on every platform. A call that is not in functions.txt is a failure. On macOS the loader binds
+// the library to the platform's functions, so platform.txt is not read.
 #include <algorithm>
 #include <fstream>
 #include <functional>
@@ -22,7 +22,7 @@
 
 namespace {
 
-// Any NaN is the same as any other.
+// All NaNs are the same.
 uint64_t bitsOf(double x) { return std::bit_cast<uint64_t>(x == x ? x : kNaN); }
 uint64_t bitsOf(int32_t n) { return static_cast<uint32_t>(n); }
 
@@ -44,10 +44,10 @@ std::string show(Numbers... numbers) {
   return text.str();
 }
 
-// What the functions of the platform give: the name of one, the bits of its arguments, its result.
+// The results of the platform's functions by name and bits of the arguments.
 std::map<std::pair<std::string, std::vector<uint64_t>>, double> answers;
 
-// The calls in the row at hand that have no answer.
+// The calls in the current row that have no answer.
 std::string unanswered;
 
 template <typename... Arguments>
@@ -58,7 +58,7 @@ double answer(const char* function, Arguments... arguments) {
   return 0.0;
 }
 
-// Calls a routine with the arguments of a row, and tells what is wrong with the results, if anything.
+// Calls a routine with the arguments of a row. Returns a description of the failure, or "".
 using Check = std::function<std::string(std::istream&)>;
 
 template <typename Result, typename... Parameters>
@@ -74,12 +74,12 @@ Check of(Result (*routine)(Parameters...)) {
     std::apply(readAll, expected);
     const std::string calls = std::exchange(unanswered, "");
     if (std::apply(allBits, results) == std::apply(allBits, expected) && calls.empty()) return "";
-    return '(' + std::apply(showAll, arguments) + ")\n  gives    " + std::apply(showAll, results) +
+    return '(' + std::apply(showAll, arguments) + ")\n  returns  " + std::apply(showAll, results) +
            "\n  expected " + std::apply(showAll, expected) + calls;
   };
 }
 
-// With what a call leaves in the variables.
+// The status and the values of the variables after the call.
 auto linear(double x1, double x2, double y1, double y2, double x, double y, HostBool forward) {
   const int32_t status = LinearInterpol(x1, x2, y1, y2, &x, &y, forward);
   return std::tuple(status, x, y);
@@ -107,15 +107,15 @@ const auto kRoutines =
               IsLong, IsLongP, LCD, LCD2, LCDDbl, Log10, LogExpAPlusExpB, Max, Min, Mod, ModDbl, Pi,
               SumCnk, expm1x, spow, sqr);
 
-// Keeps a row of a function of the platform.
-void keep(const std::string& function, std::istream& row) {
+// Stores a row of functions.txt.
+void addAnswer(const std::string& function, std::istream& row) {
   std::vector<uint64_t> arguments;
   double result = 0.0;
   for (read(row, result); row.peek() == ' '; read(row, result)) arguments.push_back(bitsOf(result));
   answers[{function, arguments}] = result;
 }
 
-// Calls a function with the name of each row's routine and with the row.
+// Calls `use` with the routine's name and the row, for each row of a file.
 void forEachRow(const std::string& path, auto use) {
   std::ifstream file(path);
   std::string name;
@@ -142,24 +142,27 @@ OF_PLATFORM pow(double x, double y) noexcept { return answer("pow", x, y); }
 
 int main(int argc, char** argv) {
   if (argc < 2) return 2;
-  constexpr std::size_t kShown = 10;
+  constexpr std::size_t kMaxShown = 10;
   const std::string folder = argv[1], only = argc > 2 ? argv[2] : "";
-  std::vector<std::string> faults;
+  std::vector<std::string> failures;
   std::size_t rows = 0;
   const auto check = [&](const std::string& name, std::istream& row) {
     if (!only.empty() && name != only) return;
     ++rows;
     const auto routine = kRoutines.find(name);
-    const std::string fault = routine == kRoutines.end() ? " is no routine" : routine->second(row);
-    if (!fault.empty()) faults.push_back(name + fault);
+    const std::string failure =
+        routine == kRoutines.end() ? " is no routine" : routine->second(row);
+    if (!failure.empty()) failures.push_back(name + failure);
   };
-  forEachRow(folder + "/functions.txt", keep);
+  forEachRow(folder + "/functions.txt", addAnswer);
   forEachRow(folder + "/own.txt", check);
 #ifndef __APPLE__
   forEachRow(folder + "/platform.txt", check);
 #endif
-  for (std::size_t i = 0; i < std::min(kShown, faults.size()); ++i) std::cout << faults[i] << '\n';
-  if (faults.size() > kShown) std::cout << "and " << faults.size() - kShown << " more\n";
+  for (std::size_t i = 0; i < std::min(kMaxShown, failures.size()); ++i) {
+    std::cout << failures[i] << '\n';
+  }
+  if (failures.size() > kMaxShown) std::cout << failures.size() - kMaxShown << " more failures\n";
   if (rows == 0) std::cout << "No rows of " << (only.empty() ? "any routine" : only) << '\n';
-  return rows > 0 && faults.empty() ? 0 : 1;
+  return rows > 0 && failures.empty() ? 0 : 1;
 }

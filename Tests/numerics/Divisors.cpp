@@ -1,15 +1,9 @@
 #include <numeric>
 
-#include "support/NumericReferences.h"
+#include "support/Expectations.h"
 #include "support/Random.h"
-#include "support/SmallScopes.h"
 
-TEST(LCD, OfIntegersNearTheLimits) {
-  const auto integers = integersNear(40, {-65536, 65536});
-  EXPECT_SAME(LCD, stepwise::LCD, integers, integers);
-}
-
-// Of i / 10^places and j / 10^places, i and j of any size that fits 32 bits.
+// Of i / 10^places and j / 10^places, where i and j are any 32-bit integers.
 TEST(LCDDbl, OfDecimals) {
   Random random;
   for (int i = 0; i < 50000 && !HasFailure(); ++i) {

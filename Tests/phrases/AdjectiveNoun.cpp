@@ -6,5 +6,5 @@ TEST(LocalAN, InEveryLanguageWithEveryFlag) {
                                     L"JP",  L"CS",  L"CN", L"us", L"Us",    L"uS",   L"U",
                                     L"USA", L" US", L"EN", L"",   L"US\0"s, L"\0\0"s};
   const std::vector<HostBool> flags{0, -1};
-  EXPECT_SAME(LocalAN, stepwise::LocalAN, words, words, languages, flags, flags, flags);
+  EXPECT_SAME(LocalAN, reference::LocalAN, words, words, languages, flags, flags, flags);
 }

@@ -1,5 +1,5 @@
 #include "support/SmallScopes.h"
 
 TEST(QUVARDHTMLProcessor, OfEveryShortText) {
-  EXPECT_SAME(QUVARDHTMLProcessor, stepwise::QUVARDHTMLProcessor, textsUpTo(6, L"<>BRQMC"));
+  EXPECT_SAME(QUVARDHTMLProcessor, reference::QUVARDHTMLProcessor, textsUpTo(6, L"<>BRQMC"));
 }

@@ -1,5 +1,5 @@
-// A sibling library that records each service call and each host string, and overwrites the wide
-// buffer at the next call of any service.
+// A QUVARDCR1C that records each service call and each host string. Each call overwrites the thread
+// buffer, so that a routine that reads the buffer too late fails.
 #include "QUVARDCR1C.h"
 
 #include <algorithm>
@@ -11,19 +11,19 @@ Recording recording;
 
 namespace {
 
-std::wstring wideBuffer;
+std::wstring threadBuffer;
 
-// Gives the text as wide text.
+// Records a call and returns the text as wide text.
 template <typename Unit>
 const std::wstring& record(const char* service, const std::basic_string<Unit>& text) {
-  std::fill(wideBuffer.begin(), wideBuffer.end(), L'\xDEAD');
+  std::fill(threadBuffer.begin(), threadBuffer.end(), L'\xDEAD');
   return recording.calls.emplace_back(service, std::wstring(text.begin(), text.end())).second;
 }
 
-// Two services take null.
+// Null is an empty text.
 std::u16string orEmpty(const char16_t* units) { return units == nullptr ? u"" : units; }
 
-BSTR made(const std::wstring& text) {
+BSTR makeHostString(const std::wstring& text) {
   const BSTR handle = new char16_t[text.size() + 1]();
   std::copy(text.begin(), text.end(), handle);
   return *recording.alive.insert(handle).first;
@@ -31,15 +31,19 @@ BSTR made(const std::wstring& text) {
 
 }  // namespace
 
-BSTR SysAllocString16(const char16_t* units) { return made(record(__func__, orEmpty(units))); }
-BSTR SysAllocString2(const wchar_t* units) { return made(record(__func__, std::wstring(units))); }
-BSTR convertWstringToBSTR(std::wstring text) { return made(record(__func__, text)); }
+BSTR SysAllocString16(const char16_t* units) {
+  return makeHostString(record(__func__, orEmpty(units)));
+}
+BSTR SysAllocString2(const wchar_t* units) {
+  return makeHostString(record(__func__, std::wstring(units)));
+}
+BSTR convertWstringToBSTR(std::wstring text) { return makeHostString(record(__func__, text)); }
 std::wstring convertBSTRtoWstring(BSTR& handle) { return record(__func__, orEmpty(handle)); }
 std::size_t wcslen16(const char16_t* units) {
   return record(__func__, std::u16string(units)).size();
 }
 wchar_t* CW162W32(BSTR handle) {
-  return (wideBuffer = record(__func__, std::u16string(handle))).data();
+  return (threadBuffer = record(__func__, std::u16string(handle))).data();
 }
 
 void releaseBSTR(BSTR handle) {

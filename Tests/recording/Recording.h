@@ -1,4 +1,4 @@
-// What the recording sibling library has seen.
+// What the recording QUVARDCR1C has recorded.
 #ifndef TESTS_RECORDING_RECORDING_H
 #define TESTS_RECORDING_RECORDING_H
 
@@ -9,7 +9,7 @@
 
 #include "QUVARDCR1C.h"
 
-// Each service and the text that it is given, in order.
+// Each service and its text, in order.
 using ServiceCalls = std::vector<std::pair<std::string, std::wstring>>;
 
 struct Recording {

@@ -4,13 +4,13 @@
 #include "TestPaths.h"
 #include "support/Expectations.h"
 
-TEST(StrLCase, DefaultLocaleChangesAToZAlone) {
+TEST(StrLCase, InTheLocaleCChangesOnlyAToZ) {
   Text lower = allUnits();
   for (wchar_t& unit : lower) unit += unit >= L'A' && unit <= L'Z' ? 32 : 0;
   EXPECT_GIVES(StrLCase, lower, allUnits());
 }
 
-TEST(StrLCase, ValuesThatAreNoCharacterStay) {
+TEST(StrLCase, LeavesCodeUnitsThatAreNoCharacters) {
   for (const Text text : {L"\x10FFFF", L"\x110000", L"\x7FFFFFFF", L"\x80000000", L"\xFFFFFFFF"}) {
     EXPECT_GIVES(StrLCase, text, text);
     EXPECT_GIVES(LowerFirst, text, text, L"", 0);
@@ -20,7 +20,7 @@ TEST(StrLCase, ValuesThatAreNoCharacterStay) {
 
 namespace {
 
-// Sets a locale that is made of the sources of the C library; false where it cannot be made.
+// Builds a locale from the C library's sources and sets it. Returns whether both succeeded.
 bool setLocale(const char* name) {
   setenv("LOCPATH", QUVARD_LOCALES, 1);
   setenv("NAME", name, 1);
@@ -32,15 +32,14 @@ bool setLocale(const char* name) {
 
 }  // namespace
 
-TEST(StrLCase, FollowsTheLocaleOfTheProcess) {
-  // What I, i and L with a stroke become.
+TEST(StrLCase, UsesTheLocaleOfTheProcess) {
+  // The lower case of I, the upper case of i and the lower case of L with stroke in each locale.
   for (const auto& [name, i, I, stroke] :
        {row("C", L"i"s, L"I"s, L"\x141"s), row("C.UTF-8", L"i"s, L"I"s, L"\x142"s),
         row("tr_TR.UTF-8", L"\x131"s, L"\x130"s, L"\x142"s)}) {
     SCOPED_TRACE(name);
     if (name != "C"s && !setLocale(name)) {
-      GTEST_SKIP() << "cannot make the locale " << name
-                   << ": install the package locales of Debian";
+      GTEST_SKIP() << "cannot build the locale " << name << ": install Debian's package locales";
     }
     EXPECT_GIVES(StrLCase, L"a" + i + stroke + L"\x10FFFF", L"AI\x141\x10FFFF");
     EXPECT_GIVES(LowerFirst, i + L"I", L"II", L"US", 0);

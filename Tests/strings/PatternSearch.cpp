@@ -2,7 +2,7 @@
 
 #include "support/SmallScopes.h"
 
-TEST(PatternSearch, TwoWayFindsWhatTheLibraryFinds) {
+TEST(PatternSearch, TwoWayAgreesWithStdFind) {
   for (const Text& pattern : textsUpTo(7)) {
     if (pattern.size() < 2) continue;
     const quvard::TwoWaySearch<wchar_t> search(pattern);

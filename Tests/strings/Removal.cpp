@@ -1,11 +1,11 @@
 #include "support/SmallScopes.h"
 
 TEST(RemoveChar, OfEveryShortText) {
-  EXPECT_SAME(RemoveChar, stepwise::RemoveChar, textsUpTo(11), textsUpTo(6));
+  EXPECT_SAME(RemoveChar, reference::RemoveChar, textsUpTo(11), textsUpTo(6));
 }
 
-// More units than the first form takes, so that a removal completes the next one again and again.
-TEST(RemoveChar, OfLongPeriods) {
+// Longer than kShortPattern. Each removal completes a further occurrence.
+TEST(RemoveChar, OfPeriodicChars) {
   for (const Text& period : textsUpTo(4)) {
     if (period.empty()) continue;
     Text chars;
@@ -15,18 +15,18 @@ TEST(RemoveChar, OfLongPeriods) {
     for (std::size_t i = 0; texts.size() < 1500; ++i) {
       for (const Text& piece : pieces) texts.push_back(texts[i] + piece);
     }
-    EXPECT_SAME(RemoveChar, stepwise::RemoveChar, texts, Texts{chars, chars + L'b'});
+    EXPECT_SAME(RemoveChar, reference::RemoveChar, texts, Texts{chars, chars + L'b'});
   }
 }
 
-TEST(RemoveChar, IsOnePass) {
+TEST(RemoveChar, IsLinear) {
   const Text a(300000, L'a'), b(300000, L'b');
   EXPECT_GIVES(RemoveChar, b, a + b, L"ab");
   EXPECT_GIVES(RemoveChar, L"a", a, L"aa");
   EXPECT_GIVES(RemoveChar, a, a, Text(100, L'a') + L'b');
   EXPECT_GIVES(RemoveChar, Text(99, L'a'), a, Text(100, L'a'));
   EXPECT_GIVES(RemoveChar, Text(149999, L'a'), a, Text(150000, L'a'));
-  // Each removal completes an occurrence further to the left.
+  // Each removal completes an occurrence to its left.
   Text pairs;
   for (int i = 0; i < 2500000; ++i) pairs += L"ab";
   EXPECT_GIVES(RemoveChar, Text(2500001, L'b'), pairs + L'b', L"abb");
@@ -37,12 +37,12 @@ TEST(RemoveChar, IsOnePass) {
 }
 
 TEST(RemoveColon, OfEveryShortText) {
-  EXPECT_SAME(RemoveColon, stepwise::RemoveColon, textsUpTo(6, L" :;a"s + L'\0'));
-  EXPECT_SAME(VB_RemoveColon, stepwise::VB_RemoveColon, textsUpTo(6, L" :;a"));
+  EXPECT_SAME(RemoveColon, reference::RemoveColon, textsUpTo(6, L" :;a"s + L'\0'));
+  EXPECT_SAME(VB_RemoveColon, reference::VB_RemoveColon, textsUpTo(6, L" :;a"));
 }
 
 TEST(RemoveSemicolon, OfEveryShortText) {
-  EXPECT_SAME(RemoveSemicolon, stepwise::RemoveSemicolon, textsUpTo(6, L" :;a"s + L'\0'));
+  EXPECT_SAME(RemoveSemicolon, reference::RemoveSemicolon, textsUpTo(6, L" :;a"s + L'\0'));
 }
 
 TEST(RemoveNonNumericChar, OfAllUnits) {

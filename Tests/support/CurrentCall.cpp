@@ -7,10 +7,8 @@ std::string (*explainFault)(const void* address) = nullptr;
 
 namespace {
 
-thread_local const CurrentCall* current = nullptr;
-
 void onSignal(int signal, siginfo_t* fault, void*) {
-  std::signal(signal, SIG_DFL);  // the fault comes again and ends the process
+  std::signal(signal, SIG_DFL);  // the fault occurs again and ends the process
   std::fprintf(stderr, "Signal %d", signal);
   if (explainFault != nullptr && (signal == SIGSEGV || signal == SIGBUS)) {
     std::fprintf(stderr, ", %s", explainFault(fault->si_addr).c_str());
@@ -19,7 +17,7 @@ void onSignal(int signal, siginfo_t* fault, void*) {
   CurrentCall::print();
 }
 
-// A sanitizer has handlers already, and calls the functions below.
+// The handlers of a sanitizer stay; it calls the functions below.
 [[maybe_unused]] const bool isHandled = [] {
   for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL}) {
     struct sigaction action = {}, before = {};
@@ -33,16 +31,8 @@ void onSignal(int signal, siginfo_t* fault, void*) {
 
 }  // namespace
 
-CurrentCall::CurrentCall(const void* describe, std::string (*text)(const void*))
-    : describe_(describe), text_(text), outer_(current) {
-  current = this;
-}
-
-CurrentCall::~CurrentCall() { current = outer_; }
-
 void CurrentCall::print() {
-  if (current == nullptr) return;
-  std::fprintf(stderr, "The call at hand: %s\n", current->text_(current->describe_).c_str());
+  if (current != nullptr) std::fprintf(stderr, "Failed in %s\n", current->describe_().c_str());
 }
 
 extern "C" {

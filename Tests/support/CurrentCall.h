@@ -1,56 +1,44 @@
-// Names the call at hand where a failure unwinds or ends the process: an exception out of a routine, a
-// signal, a report of a sanitizer.
+// Names the current call of a routine when the process fails: by an exception, a signal or the report of
+// a sanitizer.
 #ifndef TESTS_SUPPORT_CURRENTCALL_H
 #define TESTS_SUPPORT_CURRENTCALL_H
 
-#include <new>
-#include <stdexcept>
+#include <exception>
+#include <functional>
 #include <string>
 
-// The innermost call of each thread. It has a function that describes it, not the description,
-// because most calls never need one.
+// While an object lives, its thread is in the call that `describe` describes. Calls nest.
 class CurrentCall {
  public:
-  // `describe` must outlive the object.
-  template <typename Describe>
-  explicit CurrentCall(const Describe& describe)
-      : CurrentCall(&describe, [](const void* d) -> std::string {
-          return (*static_cast<const Describe*>(d))();
-        }) {}
+  // `describe` outlives the object. It runs only if the call fails.
+  explicit CurrentCall(const auto& describe) : describe_(std::cref(describe)), outer_(current) {
+    current = this;
+  }
   CurrentCall(const CurrentCall&) = delete;
   CurrentCall& operator=(const CurrentCall&) = delete;
-  ~CurrentCall();
+  ~CurrentCall() {
+    if (std::uncaught_exceptions() > exceptions_) print();
+    current = outer_;
+  }
 
-  static void print();  // to standard error, if there is one
+  // Prints the innermost call to standard error, if there is one.
+  static void print();
 
  private:
-  CurrentCall(const void* describe, std::string (*text)(const void*));
+  static inline thread_local const CurrentCall* current = nullptr;
 
-  const void* const describe_;
-  std::string (*const text_)(const void*);
+  const std::function<std::string()> describe_;
   const CurrentCall* const outer_;
+  const int exceptions_ = std::uncaught_exceptions();
 };
 
-// A failed allocation, named. Tests that let allocations fail expect this type.
-struct BadAlloc : std::bad_alloc {
-  explicit BadAlloc(std::string text) : call(std::move(text)) {}
-  const char* what() const noexcept override { return call.c_str(); }
-  std::string call;
-};
-
-// Makes a call; an exception out of it names it.
+// Makes a call that is described in case of a failure.
 auto named(const auto& describe, const auto& call) {
   const CurrentCall current(describe);
-  try {
-    return call();
-  } catch (const std::bad_alloc&) {
-    throw BadAlloc(describe() + "\n  throws std::bad_alloc");
-  } catch (const std::exception& exception) {
-    throw std::runtime_error(describe() + "\n  throws " + exception.what());
-  }
+  return call();
 }
 
-// Where a fault came from, as a test that expects faults explains it; "" if it cannot.
+// Explains an invalid access to an address, in a test that expects it; otherwise null.
 extern std::string (*explainFault)(const void* address);
 
 #endif

@@ -1,4 +1,4 @@
-// Numbers at the edge.
+// Edge values of numbers.
 #ifndef TESTS_SUPPORT_DOUBLES_H
 #define TESTS_SUPPORT_DOUBLES_H
 
@@ -17,7 +17,7 @@ inline constexpr int32_t kHighest = std::numeric_limits<int32_t>::max();
 inline double above(double x) { return std::nextafter(x, kInf); }
 inline double below(double x) { return std::nextafter(x, -kInf); }
 
-// The same bits; any NaN is the same as any other.
+// Whether the bits are the same. All NaNs are the same.
 inline bool same(double a, double b) {
   return std::bit_cast<uint64_t>(a) == std::bit_cast<uint64_t>(b) ||
          (std::isnan(a) && std::isnan(b));

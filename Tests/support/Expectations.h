@@ -1,4 +1,4 @@
-// Expectations whose failures tell the routine, its arguments, what it gives and what was expected.
+// Expectations whose failures show the routine, its arguments, its result and the expected result.
 #ifndef TESTS_SUPPORT_EXPECTATIONS_H
 #define TESTS_SUPPORT_EXPECTATIONS_H
 
@@ -16,31 +16,31 @@
 #include "support/Doubles.h"
 #include "support/HostStrings.h"
 
-// A row of a table, whose columns are named where it is gone through:
+// A row of a table. The loop names its columns:
 //   for (const auto& [text, expected] : {row(L"a", L"A"), row(L"b", L"B")})
 template <typename... Columns>
 auto row(Columns... columns) {
   return std::tuple(columns...);
 }
 
-// A value as a failure shows it; of a long text the units around a place.
-inline constexpr std::size_t kAround = 30;
-inline std::string show(const Text& text, std::size_t place = 0) {
+// A value as a failure shows it. Of a long text, the code units around a position are shown.
+inline constexpr std::size_t kContext = 30;
+inline std::string show(const Text& text, std::size_t position = 0) {
   if (text == kNullHandle) return "null";
-  const std::size_t start = place < kAround ? 0 : std::min(place, text.size()) - kAround;
-  const std::string units = testing::PrintToString(text.substr(start, 2 * kAround));
-  if (text.size() <= 2 * kAround) return units;
-  return "from unit " + std::to_string(start) + " of " + std::to_string(text.size()) + ": " + units;
+  if (text.size() <= 2 * kContext) return testing::PrintToString(text);
+  const std::size_t start = position < kContext ? 0 : std::min(position, text.size()) - kContext;
+  return "from code unit " + std::to_string(start) + " of " + std::to_string(text.size()) + ": " +
+         testing::PrintToString(text.substr(start, 2 * kContext));
 }
-inline std::string show(std::nullptr_t, std::size_t = 0) { return "null"; }
+inline std::string show(std::nullptr_t) { return "null"; }
 template <typename Number>
 requires std::is_arithmetic_v<Number> std::string show(Number number, std::size_t = 0) {
   std::ostringstream out;
   out << std::setprecision(17) << number;
   return out.str();
 }
-
-inline std::string show(const double* number, std::size_t = 0) { return show(*number); }
+inline std::string show(const double* number) { return show(*number); }
+inline std::string show(const B& string, std::size_t = 0) { return show(string.text()); }
 
 inline std::string listOf(const std::vector<std::string>& parts) {
   std::string list;
@@ -52,7 +52,7 @@ std::string showCall(const std::string& routine, const auto&... arguments) {
   return routine + "(" + listOf({show(arguments)...}) + ")";
 }
 
-// Results as they are compared: texts and numbers.
+// Results are compared as texts or as numbers.
 inline Text comparable(BSTR result) { return take(result); }
 inline Text comparable(const Text& text) { return text; }
 inline Text comparable(const B& string) { return string.text(); }
@@ -67,40 +67,34 @@ inline std::size_t firstDifference(const Text& a, const Text& b) {
 }
 inline std::size_t firstDifference(double, double) { return 0; }
 
-// A test tells some failures, not all. A fuzz target is no test, and ends with its first.
-inline bool hasToldEnough() {
-  const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
-  return test != nullptr && test->result()->total_part_count() >= 3;
-}
-
-// Compares two results. `call` gives the text of the call.
+// Compares two results. `call` returns the text of the call.
 template <typename Actual, typename Expected>
 testing::AssertionResult isSame(const Actual& actual, const Expected& expected, const auto& call) {
-  if (same(actual, expected) || hasToldEnough()) return testing::AssertionSuccess();
-  const std::size_t place = firstDifference(actual, expected);
+  if (same(actual, expected)) return testing::AssertionSuccess();
+  const std::size_t position = firstDifference(actual, expected);
   return testing::AssertionFailure()
-         << call() << "\n  gives    " << show(actual, place) << "\n  expected "
-         << show(expected, place)
-         << (place >= kAround ? "\n  first difference at unit " + std::to_string(place) : "");
+         << call() << "\n  returns  " << show(actual, position) << "\n  expected "
+         << show(expected, position)
+         << (position < kContext ? "" : "\n  first difference: " + std::to_string(position));
 }
 
-testing::AssertionResult gives(const char* routine, const auto& call, const auto& expected,
-                               const auto&... arguments) {
-  const auto shownHere = [&] { return showCall(routine, arguments...); };
-  return isSame(named(shownHere, [&] { return comparable(call(arguments...)); }),
-                comparable(expected), shownHere);
+testing::AssertionResult returns(const char* routine, const auto& call, const auto& expected,
+                                 const auto&... arguments) {
+  const auto describe = [&] { return showCall(routine, arguments...); };
+  return isSame(named(describe, [&] { return comparable(call(arguments...)); }),
+                comparable(expected), describe);
 }
 
-// A text as the argument of a host routine; anything else as it is.
+// A text as the argument of a host routine; any other argument unchanged.
 inline B asHostArgument(const Text& text) { return B(text); }
 inline B asHostArgument(const wchar_t* text) { return B(Text(text)); }
 const auto& asHostArgument(const auto& argument) { return argument; }
 
-// Expects that a routine gives a result: EXPECT_GIVES(VB_StrLeft, L"He", L"Hello", 2). A host
-// routine is given host strings of the texts.
-#define EXPECT_GIVES(...) EXPECT_PRED_FORMAT1(resultItself, GIVES(__VA_ARGS__))
-#define ASSERT_GIVES(...) ASSERT_PRED_FORMAT1(resultItself, GIVES(__VA_ARGS__))
-#define GIVES(routine, ...) gives(#routine, CALL(routine), __VA_ARGS__)
+// Expects that a routine returns a result: EXPECT_GIVES(VB_StrLeft, L"He", L"Hello", 2). A host routine
+// takes host strings of the texts.
+#define EXPECT_GIVES(...) EXPECT_PRED_FORMAT1(resultItself, RETURNS(__VA_ARGS__))
+#define ASSERT_GIVES(...) ASSERT_PRED_FORMAT1(resultItself, RETURNS(__VA_ARGS__))
+#define RETURNS(routine, ...) returns(#routine, CALL(routine), __VA_ARGS__)
 #define CALL(routine)                                  \
   [&](const auto&... arguments) {                      \
     if constexpr (requires { routine(arguments...); }) \
@@ -112,7 +106,7 @@ inline testing::AssertionResult resultItself(const char*, testing::AssertionResu
   return result;
 }
 
-// Adds a test that is named after a routine, so that ctest -R finds it.
+// Registers a test named after a routine, so that ctest -R finds it.
 inline void addTest(const std::string& routine, const std::string& test,
                     std::function<void()> body) {
   struct Named : testing::Test {
@@ -124,7 +118,7 @@ inline void addTest(const std::string& routine, const std::string& test,
                         [body]() -> testing::Test* { return new Named(body); });
 }
 
-// Expects that an expression, whose own text is shown, gives a result.
+// Expects that an expression has a value; a failure shows the expression.
 #define EXPECT_EXAMPLE(actual, expected) \
   EXPECT_PRED_FORMAT1(resultItself,      \
                       isSame(comparable(actual), comparable(expected), [] { return #actual; }))

@@ -1,4 +1,4 @@
-// Every host routine, for tests that go over the whole interface.
+// The table of all host routines: their references, their wide forms and the services that they call.
 #ifndef TESTS_SUPPORT_HOSTROUTINES_H
 #define TESTS_SUPPORT_HOSTROUTINES_H
 
@@ -6,19 +6,17 @@
 #include <utility>
 
 #include "support/Expectations.h"
-#include "support/Stepwise.h"
+#include "support/TextReferences.h"
 
 using Handles = const BSTR*;
 
-// The way across the boundary: the services for the first string, for each other one and for a
-// resulting string. A null first or second string may end the call before any of them. The strings
-// may be taken in an order of their own. Where one unit takes the place of one, the text itself may
-// change, and another service gives the result.
+// The services that a routine calls: for the first argument, for each further argument, for the result.
+// "" means no call.
 struct Path {
   std::string first, others, result;
-  bool endsAtNull = false;
-  std::vector<std::size_t> order = {};
-  std::string resultInPlace = {};
+  bool endsAtNull = false;              // a null first or second handle ends the call
+  std::vector<std::size_t> order = {};  // of the arguments, if it is not ascending
+  std::string resultInPlace = {};       // if one code unit replaces one in the text itself
 };
 inline const Path kBuffer{"CW162W32", "CW162W32", "SysAllocString2"};
 inline const Path kToNumber{"CW162W32", "CW162W32", ""};
@@ -33,35 +31,38 @@ inline const Path kToWideText{"CW162W32", "", ""};
 inline const Path kHandlesAlone{"", "", ""};
 
 struct HostRoutine {
+  using OfTexts = std::function<Text(const Texts&)>;
+
   std::string name;
-  std::size_t strings;                     // number of host strings it takes
-  std::function<Text(Handles)> call;       // its result as text, released
-  std::function<void(Handles)> run;        // the same call, its result released at once
-  std::function<Text(const Texts&)> wide;  // the same from wide text
+  std::size_t strings;  // number of host strings that it takes
   std::function<std::vector<std::string>(const Texts&)> shown;  // all arguments, for a failure
-  std::function<BSTR(Handles)> make = {};  // its result itself, if that is a host string
+  std::function<Text(Handles)> call;         // returns the text of the result, which it releases
+  std::function<Text(Handles)> unnamedCall;  // the same, but does not describe a call that throws
+  std::function<void(Handles)> run;          // the same, but returns nothing
+  std::function<BSTR(Handles)> make = {};    // returns the result; empty if it is no host string
+  OfTexts reference;
+  OfTexts wide = {};  // the wide routine; empty if there is none
   const Path* path = nullptr;
 
-  // Whether a null string ends the call before any service.
+  // Whether a null handle ends the call before any service call.
   bool isEndedBy(const Texts& texts) const {
     return path->endsAtNull &&
            (texts[0] == kNullHandle || (strings > 1 && texts[1] == kNullHandle));
   }
 
-  // Whether the first text itself changes.
+  // Whether the call changes its first text.
   bool worksInPlace(const Texts& texts) const {
     return !path->resultInPlace.empty() && !isEndedBy(texts) && texts[1].size() == 1 &&
            texts[2].size() == 1;
   }
 
-  // The result of a call; the null handle is read as the empty text.
+  // The result of a call. Null handles are read as empty texts.
   Text expected(Texts texts) const {
     if (isEndedBy(texts) && !path->result.empty()) return kNullHandle;
     std::replace(texts.begin(), texts.end(), kNullHandle, Text());
-    return wide(texts);
+    return reference(texts);
   }
 
-  // A call as a failure shows it.
   std::string show(const Texts& texts) const { return name + "(" + listOf(shown(texts)) + ")"; }
 };
 
@@ -72,10 +73,10 @@ inline Text textOf(std::int32_t result) { return std::to_wstring(result); }
 inline void discard(BSTR result) { releaseBSTR(result); }
 inline void discard(const auto&) {}
 
-// A host routine that takes host strings and then these scalars, as they are at the time of a call,
-// and what does the same with wide text.
-template <typename Result, typename... Parameters, typename... Scalars>
-HostRoutine routineOf(const char* name, Result (*host)(Parameters...), auto wide,
+// A host routine that takes host strings and then `scalars`, which are read at each call. `wide` may be
+// nullptr.
+template <typename Result, typename... Parameters, typename Wide, typename... Scalars>
+HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide, auto reference,
                       Scalars&... scalars) {
   constexpr std::size_t count = sizeof...(Parameters) - sizeof...(Scalars);
   const auto call = [&scalars...](auto routine, const auto& strings) {
@@ -90,23 +91,27 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), auto wide
     (arguments.push_back(show(scalars)), ...);
     return arguments;
   };
-  const auto callHost = [=](Handles handles) {
+  const auto make = [=](Handles handles) {
     const auto describe = [&] {
       return std::string(name) + "(" + listOf(shown(textsOf({handles, count}))) + ")";
     };
     return named(describe, [&] { return call(host, handles); });
   };
-  HostRoutine routine{name,
-                      count,
-                      [=](Handles s) { return textOf(callHost(s)); },
-                      [=](Handles s) { discard(call(host, s)); },
-                      [=](const Texts& t) { return textOf(call(wide, t)); },
-                      shown};
-  if constexpr (std::is_same_v<Result, BSTR>) routine.make = callHost;
+  HostRoutine routine{.name = name,
+                      .strings = count,
+                      .shown = shown,
+                      .call = [=](Handles s) { return textOf(make(s)); },
+                      .unnamedCall = [=](Handles s) { return textOf(call(host, s)); },
+                      .run = [=](Handles s) { discard(call(host, s)); },
+                      .reference = [=](const Texts& t) { return textOf(call(reference, t)); }};
+  if constexpr (std::is_same_v<Result, BSTR>) routine.make = make;
+  if constexpr (!std::is_null_pointer_v<Wide>) {
+    routine.wide = [=](const Texts& t) { return textOf(call(wide, t)); };
+  }
   return routine;
 }
 
-// The numbers that the routines are given beside their strings.
+// The numbers that the routines take after their host strings.
 struct Numbers {
   int32_t from = 1, to = 3, decimals = 9;
   HostBool flag1 = 0, flag2 = -1, flag3 = 1;
@@ -116,8 +121,9 @@ inline const Numbers kUsualNumbers;
 
 inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumbers) {
   const auto& [from, to, decimals, flag1, flag2, flag3, value] = numbers;
-  const auto localAN = [](Text a, Text b, Text c) { return LocalAN(a, b, c, -1, 0, 0); };
-  // Where VB_Replace gives its argument itself, which is not to be released, the null handle.
+  const auto localAN = [](Text a, Text b, Text c) { return reference::LocalAN(a, b, c, -1, 0, 0); };
+  const auto replaceWide = [](Text a, Text b, Text c) { return Replace(a, b, c); };
+  // Null instead of the text itself, which the caller must not release twice.
   const auto replacedOrNull = +[](BSTR text, BSTR pattern, BSTR replacement) -> BSTR {
     const BSTR result = VB_Replace(text, pattern, replacement);
     return result == text ? nullptr : result;
@@ -132,46 +138,57 @@ inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumb
     VB_SetFormat(formats, 1, 0, digits);
     return formats[0];
   };
-  const auto formatOf = [](int32_t digits) { return DecimalFormat(digits < 1 ? 0 : digits - 1); };
+  const auto setWideFormat = [](int32_t digits) {
+    Text formats[1];
+    SetFormat(formats, 1, 0, digits);
+    return formats[0];
+  };
+  const auto formatOf = [](int32_t digits) {
+    return reference::DecimalFormat(digits < 1 ? 0 : digits - 1);
+  };
 
   std::vector<HostRoutine> all;
   const auto add = [&all](const Path& path, std::vector<HostRoutine> routines) {
     for (HostRoutine& routine : routines) routine.path = &path;
     all.insert(all.end(), routines.begin(), routines.end());
   };
-#define ROUTINE(host, ...) routineOf(#host, host, __VA_ARGS__)
-  add(kBuffer, {ROUTINE(VB_StrLeft, StrLeft, from),
-                ROUTINE(VB_StrRight, StrRight, from),
-                ROUTINE(VB_StrConcat, StrConcat),
-                ROUTINE(VB_StrLTrim, StrLTrim),
-                ROUTINE(VB_StrRTrim, StrRTrim),
-                ROUTINE(VB_StrLRTrim, StrLRTrim),
-                ROUTINE(VB_RemoveChar, RemoveChar),
-                ROUTINE(VB_RemoveNonNumericChar, RemoveNonNumericChar),
-                ROUTINE(StrFromTo, stepwise::StrFromTo, from, to),
-                ROUTINE(StrBetween, stepwise::StrBetween, from, to),
-                ROUTINE(StrFromChrToChr, stepwise::StrFromChrToChr),
-                ROUTINE(VB_LocalAN, localAN),
-                ROUTINE(VB_LocalAN2, LocalAN, flag1, flag2, flag3),
-                ROUTINE(VB_LowerFirst, LowerFirst, flag1),
-                ROUTINE(VB_UpperFirst, UpperFirst),
-                ROUTINE(VB_PStrP, PStrP),
-                ROUTINE(VB_BStrB, stepwise::VB_BStrB),
-                ROUTINE(VB_QUVARDHTMLProcessor, QUVARDHTMLProcessor),
-                ROUTINE(Cpp_DecimalFormat, DecimalFormat, decimals),
-                ROUTINE(VB_OutputFormat, OutputFormat, value),
-                ROUTINE(VB_OptimalFormat, OptimalFormat, value, decimals, flag2, flag3),
-                routineOf("VB_SetFormat", setFormat, formatOf, decimals)});
-  add(kToNumber, {ROUTINE(VB_CommonChar, CommonChar)});
-  add(kToNumberOrNull, {ROUTINE(ChrCount, cChrCount)});
-  add(kBufferAndUnits, {ROUTINE(VB_Replace2, stepwise::VB_Replace2)});
-  add(kUnitsOrNull, {ROUTINE(VB_RemoveColon, stepwise::VB_RemoveColon)});
-  add(kReplace, {routineOf("VB_Replace", replacedOrNull, stepwise::Replace)});
-  add(kObject, {ROUTINE(StrBetweenChrAndChr, cStrBetweenChrAndChr), ROUTINE(VB_SpStrSp, SpStrSp)});
-  add(kCopy, {ROUTINE(VB_SingPlural, SingPlural, to)});
-  add(kToWideText, {ROUTINE(convToWstring, [](Text text) { return text; })});
-  add(kHandlesAlone, {routineOf("SwapStr", areSwapped, [](Text, Text) { return -1; })});
-#undef ROUTINE
+#define WITH_WIDE(host, wide, ...) \
+  routineOf(#host, host, wide, reference::wide __VA_OPT__(, ) __VA_ARGS__)
+#define HOST_ALONE(host, ...) routineOf(#host, host, nullptr, __VA_ARGS__)
+  add(kBuffer, {WITH_WIDE(VB_StrLeft, StrLeft, from),
+                WITH_WIDE(VB_StrRight, StrRight, from),
+                WITH_WIDE(VB_StrConcat, StrConcat),
+                WITH_WIDE(VB_StrLTrim, StrLTrim),
+                WITH_WIDE(VB_StrRTrim, StrRTrim),
+                WITH_WIDE(VB_StrLRTrim, StrLRTrim),
+                WITH_WIDE(VB_RemoveChar, RemoveChar),
+                WITH_WIDE(VB_RemoveNonNumericChar, RemoveNonNumericChar),
+                HOST_ALONE(StrFromTo, reference::StrFromTo, from, to),
+                HOST_ALONE(StrBetween, reference::StrBetween, from, to),
+                HOST_ALONE(StrFromChrToChr, reference::StrFromChrToChr),
+                HOST_ALONE(VB_LocalAN, localAN),
+                WITH_WIDE(VB_LocalAN2, LocalAN, flag1, flag2, flag3),
+                WITH_WIDE(VB_LowerFirst, LowerFirst, flag1),
+                WITH_WIDE(VB_UpperFirst, UpperFirst),
+                WITH_WIDE(VB_PStrP, PStrP),
+                HOST_ALONE(VB_BStrB, reference::VB_BStrB),
+                WITH_WIDE(VB_QUVARDHTMLProcessor, QUVARDHTMLProcessor),
+                WITH_WIDE(Cpp_DecimalFormat, DecimalFormat, decimals),
+                WITH_WIDE(VB_OutputFormat, OutputFormat, value),
+                WITH_WIDE(VB_OptimalFormat, OptimalFormat, value, decimals, flag2, flag3),
+                routineOf("VB_SetFormat", setFormat, setWideFormat, formatOf, decimals)});
+  add(kToNumber, {WITH_WIDE(VB_CommonChar, CommonChar)});
+  add(kToNumberOrNull, {WITH_WIDE(ChrCount, cChrCount)});
+  add(kBufferAndUnits, {HOST_ALONE(VB_Replace2, reference::VB_Replace2)});
+  add(kUnitsOrNull, {HOST_ALONE(VB_RemoveColon, reference::VB_RemoveColon)});
+  add(kReplace, {routineOf("VB_Replace", replacedOrNull, replaceWide, reference::Replace)});
+  add(kObject,
+      {WITH_WIDE(StrBetweenChrAndChr, cStrBetweenChrAndChr), WITH_WIDE(VB_SpStrSp, SpStrSp)});
+  add(kCopy, {WITH_WIDE(VB_SingPlural, SingPlural, to)});
+  add(kToWideText, {HOST_ALONE(convToWstring, [](Text text) { return text; })});
+  add(kHandlesAlone, {routineOf("SwapStr", areSwapped, nullptr, [](Text, Text) { return -1; })});
+#undef WITH_WIDE
+#undef HOST_ALONE
   return all;
 }
 

@@ -1,4 +1,4 @@
-// Texts, and host strings that are made and released through the sibling library.
+// Texts, and host strings made and released by QUVARDCR1C.
 #ifndef TESTS_SUPPORT_HOSTSTRINGS_H
 #define TESTS_SUPPORT_HOSTSTRINGS_H
 
@@ -15,22 +15,22 @@ using Text = std::wstring;
 using Texts = std::vector<Text>;
 using namespace std::string_literals;
 
-// What stands for the null handle where there are texts: no other text equals it.
+// Stands for the null handle among texts. No test uses this text itself.
 inline const Text kNullHandle = L"(null handle)";
 
-// 16-bit text as wide text, one unit for one.
+// Converts each 16-bit code unit to one wide code unit of the same value.
 inline Text widen(const std::u16string& text) { return {text.begin(), text.end()}; }
 
 inline std::u16string narrow(const Text& text) { return {text.begin(), text.end()}; }
 
-// Each 16-bit unit but zero, in order.
+// Every 16-bit code unit except zero, in order.
 inline Text allUnits() {
   Text all;
   for (wchar_t unit = 1; unit <= 0xFFFF; ++unit) all.push_back(unit);
   return all;
 }
 
-// A host string of the given text, released at the end of its life.
+// Owns a host string. Its name is short because tables of arguments repeat it.
 class B {
  public:
   explicit B(const std::u16string& text) : handle_(SysAllocString16(text.c_str())) {}
@@ -51,10 +51,10 @@ inline Texts textsOf(std::span<const BSTR> handles) {
   return texts;
 }
 
-// Host strings of the given texts, and the handles of them all.
+// Owns host strings of texts, and has the array of their handles.
 class Strings {
  public:
-  explicit Strings(const Texts& texts) {
+  explicit Strings(const Texts& texts = {}) {
     for (const Text& text : texts) {
       handles_.push_back(text == kNullHandle ? nullptr : BSTR(owners_.emplace_back(text)));
     }
@@ -67,7 +67,7 @@ class Strings {
   std::vector<BSTR> handles_;
 };
 
-// The text of a result, which is released.
+// Returns the text of a result and releases the result.
 inline Text take(BSTR result) {
   if (result == nullptr) return kNullHandle;
   const std::unique_ptr<char16_t, void (*)(BSTR)> owner(result, releaseBSTR);

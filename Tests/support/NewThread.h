@@ -7,8 +7,8 @@
 #include <unistd.h>
 #endif
 
-// Runs work on a new thread and waits for its end. On Linux, join() returns a moment before the system
-// forgets the thread; the library releases the buffer of a thread that the system has forgotten.
+// Runs work on a new thread and waits until the system no longer knows the thread. On Linux, join()
+// returns a moment earlier. QUVARDCR1C releases the buffer of a thread that the system does not know.
 template <typename Work>
 void runOnNewThread(const Work& work) {
 #ifdef __APPLE__

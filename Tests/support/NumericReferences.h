@@ -1,5 +1,5 @@
 // Reference implementations of the numeric routines that the library computes in another way: with
-// tables, in one step or by other algorithms. Results have the same bits.
+// tables, in one step or by other algorithms. The results have the same bits.
 #ifndef TESTS_SUPPORT_NUMERICREFERENCES_H
 #define TESTS_SUPPORT_NUMERICREFERENCES_H
 
@@ -8,7 +8,7 @@
 
 #include "support/Doubles.h"
 
-namespace stepwise {
+namespace reference {
 
 // Truncates toward zero; returns the lowest integer if the result does not fit 32 bits.
 inline int32_t toInt32(double x) {
@@ -22,7 +22,7 @@ inline double Fact(int32_t n) {
   return r;
 }
 
-// All passes. Infinity and NaN do not change any more, so they end the loop.
+// Runs all passes. Infinity and NaN end the loop because they no longer change.
 inline double Cnk(double n, double k) {
   if (k > n) return 0.0;
   if (k == n || k == 0.0) return 1.0;
@@ -43,7 +43,7 @@ inline double sumOf(auto term, double n, double from, double to) {
 
 inline double SumCnk(double n, double from, double to) { return sumOf(Cnk, n, from, to); }
 
-// By the floor of the quotient.
+// Rounds the quotient down.
 inline int32_t Mod(int32_t a, int32_t b) {
   if (b == 0) return a;
   const int64_t quotient = toInt32(std::floor(static_cast<double>(a) / b));
@@ -79,6 +79,6 @@ inline double LCDDbl(double a, double b) {
   return std::pow(10.0, -places) * LCD2(scaled(a), scaled(b));
 }
 
-}  // namespace stepwise
+}  // namespace reference
 
 #endif

@@ -1,5 +1,4 @@
-// Random arguments. Each test has an engine of its own, the same in every run; a fuzz target draws
-// from its input instead.
+// Random arguments. They come from a generator with a fixed seed, or from the input of a fuzz target.
 #ifndef TESTS_SUPPORT_RANDOM_H
 #define TESTS_SUPPORT_RANDOM_H
 
@@ -16,7 +15,7 @@ class Random {
  public:
   Random() : Random([engine = std::mt19937_64(20240607)](int) mutable { return engine(); }) {}
 
-  // The source is told how many bits are needed at most.
+  // `source` takes the number of bits needed and returns at least so many.
   explicit Random(std::function<uint64_t(int)> source) : source_(std::move(source)) {}
 
   std::size_t below(std::size_t limit) { return source_(limit <= 0x100 ? 8 : 64) % limit; }
@@ -25,17 +24,17 @@ class Random {
     return low + (high - low) * (static_cast<double>(source_(64) >> 11) * 0x1p-53);
   }
 
-  // Any integer, small ones as often as large ones.
+  // Any integer. Each number of bits is equally likely.
   int32_t integer() { return static_cast<int32_t>(source_(32)) >> below(32); }
 
-  // A text over a small alphabet, where patterns occur, overlap and come together.
-  std::wstring text(const std::wstring& alphabet, std::size_t longest) {
-    std::wstring text(below(longest + 1), L' ');
+  // A text over an alphabet. A small alphabet makes patterns occur, overlap and adjoin.
+  std::wstring text(const std::wstring& alphabet, std::size_t maxSize) {
+    std::wstring text(below(maxSize + 1), L' ');
     for (wchar_t& unit : text) unit = alphabet[below(alphabet.size())];
     return text;
   }
 
-  // A value of either sign at some edge or close to it, or any double.
+  // An edge value of either sign, a value near one, or any double.
   double edge() {
     constexpr double kEdges[] = {
         0.0,  kTiny,  1e-300,     1e-12,  0x1p-51, 1e-6,   0.25, 0.5,   1.0,      2.0,  6.5, 709.0,

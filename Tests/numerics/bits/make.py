@@ -23,8 +23,8 @@ import sys
 
 from gmpy2 import floor, mpfr
 
-import steps
-from steps import EXTREME, HIGHEST, INF, LOWEST, NAN, TINY, TOLERANCE, above, below, of_bits, shown
+import reference
+from reference import EXTREME, HIGHEST, INF, LOWEST, NAN, TINY, TOLERANCE, above, below, of_bits, shown
 
 # By bits alone, which every Python draws alike.
 chance = random.Random(1)
@@ -248,36 +248,36 @@ def powers():
 
 OWN = {
     "Pi": (lambda: of_bits(0x400921FB54442D11), [()]),
-    "sqr": (steps.root, ones(*EDGES) + draw(9, any_double)),
-    "Min": (steps.minimum, FEW_PAIRS),
-    "Max": (steps.maximum, FEW_PAIRS),
-    "FSgn": (steps.sign, ones(*EDGES)),
-    "FSign": (steps.with_sign, FEW_PAIRS),
-    "Fact": (steps.factorial, [(n,) for n in (LOWEST, HIGHEST, *range(-1, 30), *range(165, 174))]),
-    "Cnk": (steps.coefficient, coefficients()),
-    "SumCnk": (steps.coefficient_sum, sums()),
-    "Mod": (steps.remainder, TWO_INTEGERS),
-    "ModDbl": (steps.remainder_of_doubles, PAIRS + draw(20, within(-9, 9), within(-2, 2))),
-    "LCD": (steps.divisor, TWO_INTEGERS),
-    "LCD2": (steps.divisor_of_doubles, divisors()),
-    "IsLong": (steps.is_long, ones(*EDGES, *nearly_integral())),
-    "IsLongP": (steps.is_long_within, distances()),
-    "IsEven": (steps.is_even, ones(*EDGES, *nearly_integral())),
-    "IsEvenLng": (steps.is_even_integer, [(n,) for n in INTEGERS]),
-    "Int05": (steps.away_from_zero, roundings()),
-    "Int05c": (steps.to_closest, roundings()),
-    "Int05LU": (steps.down_or_up, directed_roundings()),
-    "LinearInterpol": (steps.linear, lines()),
-    "QuadraticInterpol": (steps.quadratic, parabolas()),
+    "sqr": (reference.root, ones(*EDGES) + draw(9, any_double)),
+    "Min": (reference.minimum, FEW_PAIRS),
+    "Max": (reference.maximum, FEW_PAIRS),
+    "FSgn": (reference.sign, ones(*EDGES)),
+    "FSign": (reference.with_sign, FEW_PAIRS),
+    "Fact": (reference.factorial, [(n,) for n in (LOWEST, HIGHEST, *range(-1, 30), *range(165, 174))]),
+    "Cnk": (reference.coefficient, coefficients()),
+    "SumCnk": (reference.coefficient_sum, sums()),
+    "Mod": (reference.remainder, TWO_INTEGERS),
+    "ModDbl": (reference.remainder_of_doubles, PAIRS + draw(20, within(-9, 9), within(-2, 2))),
+    "LCD": (reference.divisor, TWO_INTEGERS),
+    "LCD2": (reference.divisor_of_doubles, divisors()),
+    "IsLong": (reference.is_long, ones(*EDGES, *nearly_integral())),
+    "IsLongP": (reference.is_long_within, distances()),
+    "IsEven": (reference.is_even, ones(*EDGES, *nearly_integral())),
+    "IsEvenLng": (reference.is_even_integer, [(n,) for n in INTEGERS]),
+    "Int05": (reference.away_from_zero, roundings()),
+    "Int05c": (reference.to_closest, roundings()),
+    "Int05LU": (reference.down_or_up, directed_roundings()),
+    "LinearInterpol": (reference.linear, lines()),
+    "QuadraticInterpol": (reference.quadratic, parabolas()),
 }
 PLATFORM = {
-    "Log10": (lambda x: steps.call("log10", x), ones(*EDGES, 1000) + draw(5, any_double)),
-    "spow": (lambda x, y: steps.call("pow", x, y), powers()),
-    "expm1x": (steps.exp_minus_one, ones(*exponents())),
-    "ASin": (steps.arcsine, ones(*sines())),
-    "LogExpAPlusExpB": (steps.log_of_sum, logarithms()),
-    "GammaLn": (steps.log_gamma, ones(*of_gamma())),
-    "LCDDbl": (steps.divisor_of_decimals, decimals()),
+    "Log10": (lambda x: reference.call("log10", x), ones(*EDGES, 1000) + draw(5, any_double)),
+    "spow": (lambda x, y: reference.call("pow", x, y), powers()),
+    "expm1x": (reference.exp_minus_one, ones(*exponents())),
+    "ASin": (reference.arcsine, ones(*sines())),
+    "LogExpAPlusExpB": (reference.log_of_sum, logarithms()),
+    "GammaLn": (reference.log_gamma, ones(*of_gamma())),
+    "LCDDbl": (reference.divisor_of_decimals, decimals()),
 }
 
 
@@ -291,7 +291,7 @@ def lines_of(routines):
 
 
 def lines_of_calls():
-    for name, made in steps.calls.items():
+    for name, made in reference.calls.items():
         yield name + ":"
         for arguments, result in made.values():
             yield " ".join(map(shown, (*arguments, result)))

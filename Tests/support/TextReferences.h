@@ -1,14 +1,13 @@
-// What the routines of texts and number patterns give, worked out by the plainest steps that their
-// contracts allow.
-#ifndef TESTS_SUPPORT_STEPWISE_H
-#define TESTS_SUPPORT_STEPWISE_H
+// Reference implementations of the text and number pattern routines: as plain as the contracts allow.
+#ifndef TESTS_SUPPORT_TEXTREFERENCES_H
+#define TESTS_SUPPORT_TEXTREFERENCES_H
 
 #include <algorithm>
 
 #include "support/Doubles.h"
 #include "support/HostStrings.h"
 
-namespace stepwise {
+namespace reference {
 
 inline bool isSet(HostBool flag) { return flag % 0x10000 != 0; }
 
@@ -34,7 +33,7 @@ inline Text StrRTrim(Text s) {
 
 inline Text StrLRTrim(const Text& s) { return StrLTrim(StrRTrim(s)); }
 
-// In the default locale.
+// In the locale "C".
 inline wchar_t lower(wchar_t unit) { return unit >= L'A' && unit <= L'Z' ? unit + 32 : unit; }
 inline wchar_t upper(wchar_t unit) { return unit >= L'a' && unit <= L'z' ? unit - 32 : unit; }
 
@@ -49,8 +48,8 @@ inline Text UpperFirst(Text text) {
 }
 
 inline Text LowerFirst(Text text, const Text& language, HostBool forceDE) {
-  const bool stays = language == L"JP" || (language == L"DE" && !isSet(forceDE));
-  if (!text.empty() && !stays) text[0] = lower(text[0]);
+  const bool isUnchanged = language == L"JP" || (language == L"DE" && !isSet(forceDE));
+  if (!text.empty() && !isUnchanged) text[0] = lower(text[0]);
   return text;
 }
 
@@ -71,7 +70,7 @@ inline Text LocalAN(const Text& adjective, const Text& noun, const Text& languag
   return L"";
 }
 
-// Search from the start, take one unit out, search again.
+// Removes one code unit, then searches from the start again.
 inline Text RemoveChar(Text s, const Text& chars) {
   for (std::size_t at; !chars.empty() && (at = s.find(chars)) != s.npos;) s.erase(at, 1);
   return s;
@@ -101,17 +100,14 @@ inline int32_t cChrCount(Text text, Text pattern) {
 }
 
 inline Text StrFromTo(const Text& text, int32_t from, int32_t to) {
-  Text units;
-  const bool isWithin = from >= 1 && to >= 0 && static_cast<std::size_t>(to) <= text.size();
-  for (int32_t at = from; isWithin && at <= to; ++at) {
-    units += text[static_cast<std::size_t>(at) - 1];
-  }
-  return units;
+  const auto size = static_cast<int32_t>(text.size());
+  if (from < 1 || to > size || from > to) return L"";
+  return text.substr(static_cast<std::size_t>(from) - 1, static_cast<std::size_t>(to - from) + 1);
 }
 
 inline Text StrBetween(const Text& text, int32_t from, int32_t to) {
-  const Text units = StrFromTo(text, from, to);
-  return units.size() < 2 ? L"" : units.substr(1, units.size() - 2);
+  const Text slice = StrFromTo(text, from, to);
+  return slice.size() < 2 ? L"" : slice.substr(1, slice.size() - 2);
 }
 
 inline bool areDelimiters(const Text& opening, const Text& closing) {
@@ -163,26 +159,27 @@ inline Text DecimalFormat(int32_t decimals) {
 }
 
 inline Text OutputFormat(double value) {
-  const auto isWhole = [](double x) { return !(std::fabs(std::remainder(x, 1.0)) > 1e-12); };
-  return (isWhole(value) ? L"0"s : L"0." + Text(19, L'#')) + (isWhole(value * 1e19) ? L"" : L"E-#");
+  const auto isIntegral = [](double x) { return !(std::fabs(std::remainder(x, 1.0)) > 1e-12); };
+  return (isIntegral(value) ? L"0"s : L"0." + Text(19, L'#')) +
+         (isIntegral(value * 1e19) ? L"" : L"E-#");
 }
 
 inline Text OptimalFormat(double value, int32_t decimals, HostBool useExponent,
                           HostBool keepDecimals) {
-  const auto isWhole = [](double x) {
-    const double whole = std::trunc(x);
-    return std::fabs(whole - x) < 1e-12 && whole >= kLowest && whole <= kHighest;
+  const auto isIntegral = [](double x) {
+    const double integer = std::trunc(x);
+    return std::fabs(integer - x) < 1e-12 && integer >= kLowest && integer <= kHighest;
   };
   const double magnitude = std::fabs(value);
-  Text mantissa = isWhole(value) ? L"0" : DecimalFormat(decimals);
+  Text mantissa = isIntegral(value) ? L"0" : DecimalFormat(decimals);
   if (!isSet(useExponent) || !(magnitude > 1e-12) || std::isinf(value)) return mantissa;
   const double e = std::trunc(std::log10(magnitude));
   const bool isSmall = e < -static_cast<double>(decimals);
   if (!isSmall && e < 5) return mantissa;
-  if (!isSet(keepDecimals) && isWhole(std::pow(10.0, -e) * value)) mantissa = L"0";
+  if (!isSet(keepDecimals) && isIntegral(std::pow(10.0, -e) * value)) mantissa = L"0";
   return mantissa + (isSmall ? L"E-0" : L"E+0") + ((isSmall ? e <= -10 : e >= 10) ? L"0" : L"");
 }
 
-}  // namespace stepwise
+}  // namespace reference
 
 #endif
