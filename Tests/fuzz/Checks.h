@@ -67,25 +67,11 @@ inline HostBool drawFlag(Random& random) {
   return choice < std::size(kFlags) ? kFlags[choice] : random.integer();
 }
 
-// An edge value, a quotient of small integers, a power of ten, or a value slightly off one of them.
-inline double drawDouble(Random& random) {
-  double x = random.edge();
-  const std::size_t choice = random.below(4);
-  if (choice == 1) x = drawInteger(random) * 0.25;
-  if (choice == 2) x = drawInteger(random) / std::pow(10.0, static_cast<double>(random.below(10)));
-  if (choice == 3) x = std::pow(10.0, static_cast<double>(random.below(50)) - 30.0);
-  const std::size_t offset = random.below(6);
-  if (offset == 0) return x + random.between(-2e-12, 2e-12);
-  if (offset == 1) return x * (1.0 + random.between(-1e-4, 1e-4));
-  if (offset > 2) return x;
-  return std::bit_cast<double>(std::bit_cast<uint64_t>(x) + random.below(9) - 4);
-}
-
 // Patterns have at most 400 decimals, so that they fit into memory.
 inline Numbers drawNumbers(Random& random) {
   return {drawInteger(random), drawInteger(random), std::min(drawInteger(random), 400),
           drawFlag(random),    drawFlag(random),    drawFlag(random),
-          drawDouble(random)};
+          random.edge()};
 }
 
 #endif

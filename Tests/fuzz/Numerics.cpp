@@ -6,7 +6,7 @@ namespace {
 
 // Either argument may be integral, and k may be close to 0 or to n.
 std::tuple<double, double> drawCoefficient(Random& random) {
-  if (random.below(4) == 0) return {drawDouble(random), drawDouble(random)};
+  if (random.below(4) == 0) return {random.edge(), random.edge()};
   constexpr double kLimits[] = {140.0, 1200.0, 2500.0, 4e9};
   double n = random.between(-20.0, kLimits[random.below(4)]);
   double k = random.between(-20.0, random.below(2) == 0 ? 40.0 : n);
@@ -28,7 +28,7 @@ std::tuple<double, double, double> drawSum(Random& random) {
     case 2:
       return {n - 0x1p31 + 48.0, kLowest, n - 0x1p31 + 58.0};
     case 3:
-      return {drawDouble(random), from, from + 40.0};
+      return {random.edge(), from, from + 40.0};
     case 4:
       return {n, from - 1e3, from};
     default:
@@ -43,9 +43,7 @@ std::tuple<int32_t> drawOneInteger(Random& random) { return {drawInteger(random)
 std::tuple<int32_t, int32_t> drawIntegers(Random& random) {
   return {drawInteger(random), drawInteger(random)};
 }
-std::tuple<double, double> drawDoubles(Random& random) {
-  return {drawDouble(random), drawDouble(random)};
-}
+std::tuple<double, double> drawDoubles(Random& random) { return {random.edge(), random.edge()}; }
 
 // `draw` returns a tuple of arguments.
 Check checkOf(const char* name, auto routine, auto reference, auto draw) {

@@ -6,7 +6,8 @@
 
 namespace {
 
-constexpr std::size_t kRounds = 3, kCalls = 4;
+constexpr int kRounds = 3, kCalls = 4;
+constexpr std::size_t kSeeds = 1U << 31;
 constexpr std::size_t kMaxSize = 100;  // of an argument, so that texts do not grow
 
 // A host string and its expected text.
@@ -14,96 +15,75 @@ struct Shared {
   BSTR handle;
   Text text;
 };
+using Pool = std::vector<Shared>;
 
-struct Call {
-  const HostRoutine* routine;
-  std::vector<BSTR> handles = {};
-  Texts texts = {};
-  Shared result = {};
-  Text actual = {};
+void releaseAll(Pool& pool) {
+  for (const Shared& string : pool) releaseBSTR(string.handle);
+  pool.clear();
+}
 
-  void run() {
+// Calls routines on host strings of a pool. Results that may become arguments are added to `made`.
+testing::AssertionResult callOnPool(Random random, const std::vector<HostRoutine>& routines,
+                                    const Pool& pool, Pool& made) {
+  for (int i = 0; i < kCalls; ++i) {
+    const HostRoutine& routine = routines[random.below(routines.size())];
+    std::vector<BSTR> handles;
+    Texts texts;
+    while (texts.size() < routine.strings) {
+      const auto& [handle, text] = pool[random.below(pool.size())];
+      handles.push_back(handle);
+      texts.push_back(text);
+    }
+    const Text expected = routine.expected(texts);
     // A text that changes must not be in use on the other thread.
     BSTR copy = nullptr;
-    if (routine->worksInPlace(texts)) handles[0] = copy = SysAllocString16(handles[0]);
-    if (routine->make) {
-      result.handle = routine->make(handles.data());
-      actual = result.handle == nullptr ? kNullHandle : widen(result.handle);
+    if (routine.worksInPlace(texts)) handles[0] = copy = SysAllocString16(handles[0]);
+    Text actual;
+    if (routine.make && expected.size() <= kMaxSize) {
+      made.push_back({routine.make(handles.data()), expected});
+      actual = textsOf({&made.back().handle, 1})[0];
     } else {
-      actual = routine->call(handles.data());
+      actual = routine.call(handles.data());
     }
     releaseBSTR(copy);
+    const auto result = isSame(actual, expected, [&] { return routine.show(texts); });
+    if (!result) return result;
   }
-};
-
-// One thread's part of a round, and the host strings that the other thread releases in the next round.
-struct Part {
-  std::vector<Call> calls;
-  std::vector<BSTR> released;
-
-  void run() {
-    for (const BSTR handle : released) releaseBSTR(handle);
-    for (Call& call : calls) call.run();
-  }
-};
-
-Call drawCall(Random& random, const std::vector<HostRoutine>& routines,
-              const std::vector<Shared>& arguments) {
-  Call call{&routines[random.below(routines.size())]};
-  while (call.texts.size() < call.routine->strings) {
-    const Shared& argument = arguments[random.below(arguments.size())];
-    call.handles.push_back(argument.handle);
-    call.texts.push_back(argument.text);
-  }
-  call.result.text = call.routine->expected(call.texts);
-  return call;
+  return testing::AssertionSuccess();
 }
 
 testing::AssertionResult checkSequence(Random& random) {
   static Numbers numbers;
   static const std::vector<HostRoutine> routines = hostRoutines(numbers);
-  std::vector<Shared> arguments{{nullptr, kNullHandle}};
+  Pool initial{{nullptr, kNullHandle}};
   for (const std::size_t size : {kMaxSize, kMaxSize, std::size_t{1}, std::size_t{1}}) {
     const B text(drawText(random, {}).substr(0, size));
-    arguments.push_back({SysAllocString16(text), text.text()});
+    initial.push_back({SysAllocString16(text), text.text()});
   }
-  auto result = testing::AssertionSuccess();
-  Part parts[2];
-  for (std::size_t round = 0; round < kRounds; ++round) {
+  auto result = testing::AssertionSuccess(), otherResult = result;
+  Pool made[2],
+      released[2];  // what each thread made in the round before, and what it is to release
+  for (int round = 0; round < kRounds; ++round) {
     numbers = drawNumbers(random);
-    for (Part& part : parts) {
-      part.calls.clear();
-      while (part.calls.size() < kCalls) {
-        part.calls.push_back(drawCall(random, routines, arguments));
-      }
-    }
-    std::thread other([&] { parts[1].run(); });
-    parts[0].run();
+    Pool pool = initial, next[2];
+    for (const Pool& strings : made) pool.insert(pool.end(), strings.begin(), strings.end());
+    const auto run = [&](std::size_t thread, Random own) {
+      releaseAll(released[thread]);
+      return callOnPool(own, routines, pool, next[thread]);
+    };
+    Random first(random.below(kSeeds)), second(random.below(kSeeds));
+    std::thread other([&] { otherResult = run(1, second); });
+    result = run(0, first);
     other.join();
-
-    for (std::size_t i = 0; i < 2; ++i) {
-      parts[1 - i].released.clear();
-      for (const Call& call : parts[i].calls) {
-        const auto& [handle, expected] = call.result;
-        if (result) {
-          result = isSame(call.actual, expected, [&] { return call.routine->show(call.texts); });
-        }
-        if (handle == nullptr) continue;
-        if (expected.size() <= kMaxSize && random.below(2) == 0) {
-          arguments.push_back(call.result);
-        } else {
-          parts[1 - i].released.push_back(handle);
-        }
-      }
+    if (!otherResult) result = otherResult;
+    for (const auto& [handle, text] : pool) {
+      if (result) result = isSame(textsOf({&handle, 1})[0], text, [] { return "an argument"; });
     }
+    if (!result) return result;
+    for (std::size_t i = 0; i < 2; ++i) released[1 - i] = std::exchange(made[i], next[i]);
   }
-  for (const auto& [handle, text] : arguments) {
-    if (result)
-      result = isSame(handle ? widen(handle) : kNullHandle, text, [] { return "argument"; });
-    releaseBSTR(handle);
-  }
-  for (const Part& part : parts) {
-    for (const BSTR handle : part.released) releaseBSTR(handle);
+  for (Pool* const pool : {&initial, &made[0], &made[1], &released[0], &released[1]}) {
+    releaseAll(*pool);
   }
   return result;
 }

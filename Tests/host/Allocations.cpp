@@ -103,7 +103,7 @@ TEST_EACH_HOST_ROUTINE(EachAllocationMayFail) {
           Texts{text, L"a", L"a, b, c, d", L"", L"", L""}}) {
       const Strings strings(texts);
       failures += expectEachMayFail(
-          routine.show(texts), [&] { return routine.unnamedCall(strings.handles()); }, strings);
+          routine.show(texts), [&] { return routine.call(strings.handles()); }, strings);
       if (routine.wide) {
         expectEachMayFail("wide " + routine.show(texts), [&] { return routine.wide(texts); });
       }
@@ -113,7 +113,9 @@ TEST_EACH_HOST_ROUTINE(EachAllocationMayFail) {
   EXPECT_TRUE(failures > 0 || routine.path == &kHandlesAlone);
 }
 
-TEST(VB_SetFormat, EachAllocationMayFail) { expectEachMayFail("VB_SetFormat", setHostFormats); }
+TEST(VB_SetFormat, EachAllocationForAnArrayMayFail) {
+  expectEachMayFail("VB_SetFormat", setHostFormats);
+}
 
 TEST(SysAllocString2, EachAllocationMayFail) {
   expectEachMayFail("a surrogate pair", [] { return take(SysAllocString2(L"\x1F600")); });

@@ -3,8 +3,8 @@
 #ifndef TESTS_SUPPORT_CURRENTCALL_H
 #define TESTS_SUPPORT_CURRENTCALL_H
 
-#include <exception>
 #include <functional>
+#include <new>
 #include <string>
 
 // While an object lives, its thread is in the call that `describe` describes. Calls nest.
@@ -16,10 +16,7 @@ class CurrentCall {
   }
   CurrentCall(const CurrentCall&) = delete;
   CurrentCall& operator=(const CurrentCall&) = delete;
-  ~CurrentCall() {
-    if (std::uncaught_exceptions() > exceptions_) print();
-    current = outer_;
-  }
+  ~CurrentCall() { current = outer_; }
 
   // Prints the innermost call to standard error, if there is one.
   static void print();
@@ -29,13 +26,19 @@ class CurrentCall {
 
   const std::function<std::string()> describe_;
   const CurrentCall* const outer_;
-  const int exceptions_ = std::uncaught_exceptions();
 };
 
-// Makes a call that is described in case of a failure.
+// Makes a call. `describe` names it in a failure, except std::bad_alloc, which some tests provoke.
 auto named(const auto& describe, const auto& call) {
   const CurrentCall current(describe);
-  return call();
+  try {
+    return call();
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (...) {
+    CurrentCall::print();
+    throw;
+  }
 }
 
 // Explains an invalid access to an address, in a test that expects it; otherwise null.

@@ -34,12 +34,11 @@ struct HostRoutine {
   using OfTexts = std::function<Text(const Texts&)>;
 
   std::string name;
-  std::size_t strings;  // number of host strings that it takes
-  std::function<std::vector<std::string>(const Texts&)> shown;  // all arguments, for a failure
-  std::function<Text(Handles)> call;         // returns the text of the result, which it releases
-  std::function<Text(Handles)> unnamedCall;  // the same, but does not describe a call that throws
-  std::function<void(Handles)> run;          // the same, but returns nothing
-  std::function<BSTR(Handles)> make = {};    // returns the result; empty if it is no host string
+  std::size_t strings;                            // number of host strings that it takes
+  std::function<std::string(const Texts&)> show;  // the call as a failure shows it
+  std::function<Text(Handles)> call;       // returns the text of the result, which it releases
+  std::function<void(Handles)> run;        // the same, but returns nothing
+  std::function<BSTR(Handles)> make = {};  // returns the result; empty if it is no host string
   OfTexts reference;
   OfTexts wide = {};  // the wide routine; empty if there is none
   const Path* path = nullptr;
@@ -62,8 +61,6 @@ struct HostRoutine {
     std::replace(texts.begin(), texts.end(), kNullHandle, Text());
     return reference(texts);
   }
-
-  std::string show(const Texts& texts) const { return name + "(" + listOf(shown(texts)) + ")"; }
 };
 
 inline Text textOf(BSTR result) { return take(result); }
@@ -85,23 +82,17 @@ HostRoutine routineOf(const char* name, Result (*host)(Parameters...), Wide wide
     }
     (std::make_index_sequence<count>());
   };
-  const auto shown = [&scalars...](const Texts& texts) {
-    std::vector<std::string> arguments;
-    for (std::size_t i = 0; i < count; ++i) arguments.push_back(show(texts[i]));
-    (arguments.push_back(show(scalars)), ...);
-    return arguments;
+  const auto showTexts = [=](const Texts& texts) {
+    return call([=](const auto&... arguments) { return showCall(name, arguments...); }, texts);
   };
   const auto make = [=](Handles handles) {
-    const auto describe = [&] {
-      return std::string(name) + "(" + listOf(shown(textsOf({handles, count}))) + ")";
-    };
+    const auto describe = [&] { return showTexts(textsOf({handles, count})); };
     return named(describe, [&] { return call(host, handles); });
   };
   HostRoutine routine{.name = name,
                       .strings = count,
-                      .shown = shown,
+                      .show = showTexts,
                       .call = [=](Handles s) { return textOf(make(s)); },
-                      .unnamedCall = [=](Handles s) { return textOf(call(host, s)); },
                       .run = [=](Handles s) { discard(call(host, s)); },
                       .reference = [=](const Texts& t) { return textOf(call(reference, t)); }};
   if constexpr (std::is_same_v<Result, BSTR>) routine.make = make;
@@ -138,11 +129,6 @@ inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumb
     VB_SetFormat(formats, 1, 0, digits);
     return formats[0];
   };
-  const auto setWideFormat = [](int32_t digits) {
-    Text formats[1];
-    SetFormat(formats, 1, 0, digits);
-    return formats[0];
-  };
   const auto formatOf = [](int32_t digits) {
     return reference::DecimalFormat(digits < 1 ? 0 : digits - 1);
   };
@@ -176,7 +162,7 @@ inline std::vector<HostRoutine> hostRoutines(const Numbers& numbers = kUsualNumb
                 WITH_WIDE(Cpp_DecimalFormat, DecimalFormat, decimals),
                 WITH_WIDE(VB_OutputFormat, OutputFormat, value),
                 WITH_WIDE(VB_OptimalFormat, OptimalFormat, value, decimals, flag2, flag3),
-                routineOf("VB_SetFormat", setFormat, setWideFormat, formatOf, decimals)});
+                routineOf("VB_SetFormat", setFormat, nullptr, formatOf, decimals)});
   add(kToNumber, {WITH_WIDE(VB_CommonChar, CommonChar)});
   add(kToNumberOrNull, {WITH_WIDE(ChrCount, cChrCount)});
   add(kBufferAndUnits, {HOST_ALONE(VB_Replace2, reference::VB_Replace2)});

@@ -13,7 +13,8 @@
 
 class Random {
  public:
-  Random() : Random([engine = std::mt19937_64(20240607)](int) mutable { return engine(); }) {}
+  explicit Random(uint64_t seed = 20240607)
+      : Random([engine = std::mt19937_64(seed)](int) mutable { return engine(); }) {}
 
   // `source` takes the number of bits needed and returns at least so many.
   explicit Random(std::function<uint64_t(int)> source) : source_(std::move(source)) {}
@@ -34,18 +35,21 @@ class Random {
     return text;
   }
 
-  // An edge value of either sign, a value near one, or any double.
+  // An edge value, a decimal, a power of ten, a value near one of them, or any double, of either sign.
   double edge() {
-    constexpr double kEdges[] = {
-        0.0,  kTiny,  1e-300,     1e-12,  0x1p-51, 1e-6,   0.25, 0.5,   1.0,      2.0,  6.5, 709.0,
-        1e10, 0x1p31, 0x1p31 - 1, 0x1p32, 0x1p52,  0x1p53, 1e16, 1e300, kExtreme, kInf, kNaN};
-    const std::size_t choice = below(std::size(kEdges) + 4);
-    double x = choice < std::size(kEdges) ? kEdges[choice] : std::bit_cast<double>(source_(64));
-    const std::size_t shift = below(9);
-    if (shift == 1) x = ::above(x);
-    if (shift == 2) x = ::below(x);
-    if (shift > 6) x += static_cast<double>(shift) * 0.25;
-    return shift % 2 == 0 ? x : -x;
+    constexpr double kEdges[] = {0.0,    kTiny, 1e-300,   0x1p-51,    0.25,   0.5,
+                                 1.0,    2.0,   0x1p31,   0x1p31 - 1, 0x1p32, 0x1p52,
+                                 0x1p53, 1e300, kExtreme, kInf,       kNaN};
+    double x = std::bit_cast<double>(source_(64));
+    const std::size_t choice = below(5);
+    if (choice < 2) x = kEdges[below(std::size(kEdges))];
+    if (choice == 2) x = integer() / std::pow(10.0, static_cast<double>(below(10)));
+    if (choice == 3) x = std::pow(10.0, static_cast<double>(below(50)) - 30.0);
+    const std::size_t offset = below(6);
+    if (offset == 0) x += between(-2e-12, 2e-12);
+    if (offset == 1) x *= 1.0 + between(-1e-4, 1e-4);
+    if (offset == 2) x = std::bit_cast<double>(std::bit_cast<uint64_t>(x) + below(9) - 4);
+    return below(2) == 0 ? x : -x;
   }
 
  private:
