@@ -1,4 +1,4 @@
-# Fails unless the report program, without the library beside it, ends with a message and a status.
+# Fails unless the report program names the missing library and returns an error status.
 file(MAKE_DIRECTORY "${FOLDER}")
 file(COPY_FILE "${REPORT}" "${FOLDER}/report")
 separate_arguments(EMULATOR)

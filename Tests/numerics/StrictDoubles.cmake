@@ -1,5 +1,5 @@
-# Fails unless every source that computes in doubles refuses -ffast-math, and each option that changes
-# their bits is refused by the header (g++) or by CMake.
+# Fails unless every source that computes in doubles refuses -ffast-math, and the header (g++) or CMake
+# refuses each option that changes the bits of results.
 set(library "${ROOT}/Sources/Shared/QUVARDBS1C")
 set(message "numerics promise IEEE doubles")
 set(failures "")
@@ -7,14 +7,14 @@ set(failures "")
 macro(expect_refusal option)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT output MATCHES "${message}")
-    string(APPEND failures "\nnot refused with ${option}: ${ARGN}")
+    string(APPEND failures "\n${option} is not refused: ${ARGN}")
   endif()
 endmacro()
 set(compile "${COMPILER}" -std=c++20 -E "-I${library}" "-I${ROOT}/Sources/Shared/QUVARDCR1C"
   "-I${GENERATED}")
 
 file(GLOB_RECURSE sources "${library}/*.cpp")
-list(FILTER sources EXCLUDE REGEX "/Swaps.cpp$")  # moves doubles, computes nothing
+list(FILTER sources EXCLUDE REGEX "/Swaps.cpp$")  # computes nothing
 foreach(source IN LISTS sources)
   file(STRINGS "${source}" doubles REGEX "^[^/]*double ")
   if(doubles)

@@ -1,20 +1,20 @@
 #!/usr/bin/env python3
-"""Computes the bits that the numerics promise.
+"""Computes the bits of the results that the contracts of the numeric routines promise.
 
-make.py FOLDER writes three files there. Each routine is run step by step as its
-contract describes, in numbers of arbitrary precision (MPFR, by gmpy2), and each step is rounded to a
-double. Neither the library nor the doubles of the processor take part.
+make.py FOLDER writes three files to FOLDER. reference.py computes the results with MPFR (by gmpy2) and
+rounds each operation to a double. Neither the library nor the processor's doubles are used.
 
-own.txt has the routines that compute everything themselves. platform.txt has those that call the
-platform's log, exp, pow, log10 or atan. functions.txt has these calls with their correctly rounded
-values: with these values the results of platform.txt have the same bits everywhere too.
+own.txt: routines that call no function of the platform.
+platform.txt: routines that call the platform's log, exp, pow, log10 or atan.
+functions.txt: these calls with their correctly rounded results. With these results the rows of
+platform.txt have the same bits on every platform.
 
-A line with a name starts the rows of that routine. Each has the arguments, then the results, and
-for the interpolations what they leave in the variables. A double is the 16 hexadecimal digits of
-its bits, without the zeros at the end. An integer is decimal.
+A line with a name starts the rows of a routine. A row has the arguments, the result and, for the
+interpolations, the values of the variables after the call. Integers are decimal. Doubles are the
+hexadecimal digits of their bits without trailing zeros.
 
-Rows are edges, each for a reason, and a few random ones. Routines with a reference in
-Tests/support/NumericReferences.h are tested with many more arguments there.
+Most rows are edge cases; some are random. Tests compare the routines that have a reference in
+Tests/support/NumericReferences.h on many more arguments.
 """
 import itertools
 import pathlib
@@ -26,12 +26,12 @@ from gmpy2 import floor, mpfr
 import reference
 from reference import EXTREME, HIGHEST, INF, LOWEST, NAN, TINY, TOLERANCE, above, below, of_bits, shown
 
-# By bits alone, which every Python draws alike.
+# Only getrandbits is used: its results are the same in every version of Python.
 chance = random.Random(1)
 
 
 def integer():
-    """Of either sign, small ones as often as large ones."""
+    """Of either sign. Each number of bits is equally likely."""
     return (chance.getrandbits(32) + LOWEST) >> chance.getrandbits(5)
 
 
@@ -68,11 +68,10 @@ def of_both_signs(*values):
 
 
 def with_neighbours(*values):
-    """Of either sign."""
     return of_both_signs(*(x for v in map(mpfr, values) for x in (v, above(v), below(v))))
 
 
-# The negative zero is no text, as which gmpy2 takes its sign away.
+# Negative zero is a number here because gmpy2 drops the sign of the text "-0.0".
 EDGES = [mpfr(v) for v in (0, -0.0, NAN, INF, -INF)]
 EDGES += of_both_signs(TINY, mpfr(2) ** -1022, 0.1, 1.5, 100, 1e300, below(INF)) + with_neighbours(1)
 INTEGERS = [0, 1, -1, 2, -2, 3, -5, 6, 7, -12, 18, 2**30, HIGHEST, -HIGHEST, LOWEST]
@@ -93,36 +92,36 @@ TWO_INTEGERS = draw(9, integer, integer) + [
 ]
 
 
-def to_round():
+def roundable():
     yield from EDGES
     yield from with_neighbours(TOLERANCE, 0.25, 0.5, 2**31, 2**31 - 1, 2**52)
-    for whole in map(mpfr, (0, 2, 15, 16, 2**31 - 2, 2**31 - 1, 2**31, 2**51)):
-        if whole < 15:
+    for n in map(mpfr, (0, 2, 15, 16, 2**31 - 2, 2**31 - 1, 2**31, 2**51)):
+        if n < 15:
             for fraction in ("0.1", 0.25, "0.2500000000009", "0.250000000001", "0.3", "0.4"):
-                yield from (whole + mpfr(fraction), -(whole + 1 - mpfr(fraction)))
+                yield from (n + mpfr(fraction), -(n + 1 - mpfr(fraction)))
         for fraction in ("0.4999999999995", "0.4999999999985", "0.49999999999999956", 0.5):
-            yield from (whole + mpfr(fraction), -above(whole + mpfr(fraction)))
-        yield from (below(whole), -below(whole + 1))
+            yield from (n + mpfr(fraction), -above(n + mpfr(fraction)))
+        yield from (below(n), -below(n + 1))
     yield from (x for (x,) in draw(9, within(-20, 20)))
 
 
 def roundings():
-    for i, x in enumerate(to_round()):
+    for i, x in enumerate(roundable()):
         yield from ((x, -1), (x, 0))[: 1 + (i % 5 == 0)]
     yield from itertools.product([mpfr(2.1)], FLAGS)
 
 
 def directed_roundings():
-    for i, x in enumerate(to_round()):
+    for i, x in enumerate(roundable()):
         yield from ((x, -1, -(i % 2)), (x, -(i // 2 % 2), (i % 2) - 1))[: 1 + (i % 3 == 0)]
     yield from ((mpfr(2.3), *flags) for f in FLAGS for flags in ((f, 0), (f, -1), (0, f), (-1, f)))
 
 
 def nearly_integral():
     yield from with_neighbours(TOLERANCE, 0.5, 2, 3, 2**31, 2**52, 2**53)
-    for whole in map(mpfr, (0, 1, 2, 1000, 2**20 + 1)):
+    for n in map(mpfr, (0, 1, 2, 1000, 2**20 + 1)):
         for off in map(mpfr, (9e-13, 1.1e-12, 2.0**-52, 2.0**-51, 2.0**-40)):
-            yield from (whole + off, -(whole - off))
+            yield from (n + off, -(n - off))
 
 
 def distances():
@@ -132,8 +131,8 @@ def distances():
 
 
 def coefficients():
-    # The shorter side is computed pass by pass; some results are in tables.
-    for n in range(12):
+    # Some results are in tables, others are computed from the shorter side.
+    for n in (0, 1, 2, 5, 8, 11):
         yield from doubles((n, k) for k in range(n + 2))
     for n in (67, 68, 127, 128, 129, 1000, 1019, 1020, 1023, 1024):
         for k in (1, 3, 4, 62, 63, 64, 65, 127, 128, 449, 510, 511):
@@ -161,9 +160,9 @@ def sums():
         *((2.0**31 - 20, -60, 10), (2.0**31 + 0.25, -30, 40), (7.697700821666311, -191, -66)),
     )
     yield from doubles(named)
-    for n, a, count in draw(12, within(-60, 60), within(-80, 80), within(-2, 90)):
+    for n, a, count in draw(8, within(-60, 60), within(-80, 80), within(-2, 90)):
         yield from ((n, a, a + count), (floor(n), a, a + count), (n + 2**31, a, a + count))
-    # Long runs, whose sums are rounded to ever coarser multiples.
+    # Many terms. The larger a sum, the coarser its rounding.
     for n in (-1, 0.1, 1e-20, 1234567.890123, 1e9 + 2 / 3, 2.0**31 + 2.0**20 + 0.5, INF):
         for first, count in draw(1, within(-(2.0**31), -1e6), within(1e4, 3e4)):
             yield mpfr(n), first, first + count
@@ -173,7 +172,7 @@ def sums():
 def divisors():
     yield from PAIRS
     yield from doubles(draw(15, integer, integer)) + draw(15, within(-3e9, 3e9), within(-99, 99))
-    # Where a double begins not to fit 32 bits.
+    # The limits of 32 bits.
     yield from ((x, mpfr(HIGHEST)) for x in with_neighbours(HIGHEST, 2**31, 2**31 + 1))
 
 
@@ -182,7 +181,7 @@ def with_flags(rows, flags=itertools.cycle((-1, 0, 0xFFFF, 1, 0x1FFFF, 0x7FFF, 0
 
 
 def lines():
-    """Both directions, by each flag in turn."""
+    """The flags alternate between both directions."""
     yield from with_flags(draw(20, *[within(-9, 9)] * 6) + draw(30, *[small_integral] * 6))
     yield from with_flags(draw(20, *[any_edge] * 6))
 
@@ -220,8 +219,10 @@ def logarithms():
     yield from draw(15, within(-40, 40), within(-40, 40)) + draw(5, within(-1e6, 1e6), within(-1e6, 1e6))
 
 
-def of_gamma():
-    yield from EDGES + with_neighbours(6.5, 6, 1e-15)
+def gammas():
+    yield from EDGES + with_neighbours(*range(1, 7), 6.5, 1e-15, 4.4e-16)
+    yield from map(mpfr, (-6.18, 4.5e-16, above(above(-2)), above(above(above(-2)))))
+    yield from map(mpfr, (below(below(-1)), below(below(below(-1))), below(below(-2))))
     yield from map(mpfr, (*(i / 2 for i in range(-14, 8)), 100, 2.5e305, 2.56e305, 2.6e305))
     yield from (x for (x,) in draw(15, within(-6.6, 10)) + draw(5, within(0, 300)))
     yield from (mpfr(10) ** e for (e,) in draw(5, within(-16, 306)))
@@ -276,7 +277,7 @@ PLATFORM = {
     "expm1x": (reference.exp_minus_one, ones(*exponents())),
     "ASin": (reference.arcsine, ones(*sines())),
     "LogExpAPlusExpB": (reference.log_of_sum, logarithms()),
-    "GammaLn": (reference.log_gamma, ones(*of_gamma())),
+    "GammaLn": (reference.log_gamma, ones(*gammas())),
     "LCDDbl": (reference.divisor_of_decimals, decimals()),
 }
 

@@ -1,4 +1,4 @@
-"""The numerics, step by step as their contracts tell. Each step is rounded to a double."""
+"""Reference implementations of the numeric routines. Each operation is rounded to a double."""
 import struct
 
 import gmpy2
@@ -90,7 +90,7 @@ def coefficient(n, k):
         m = trunc_lng(k)
         q = n - m
     r, i = 1 + q, mpfr(2)
-    while i <= m and r < INF:  # an infinite r stays
+    while i <= m and r < INF:
         r, i = ((q + i) * r) / i, i + 1
     return r
 
@@ -125,25 +125,25 @@ def divisor_of_doubles(a, b):
     return abs(a)
 
 
-def is_nearly_whole(t):
+def is_nearly_integral(t):
     return abs(t - gmpy2.rint(t)) <= abs(t) * mpfr(2) ** -48
 
 
 def places(t):
     count = mpfr(0)
-    while abs(gmpy2.frac(t)) > TOLERANCE and not is_nearly_whole(t):
+    while abs(gmpy2.frac(t)) > TOLERANCE and not is_nearly_integral(t):
         count, t = count + 1, t * 10
     return count
 
 
-def made_whole(t):
-    return gmpy2.rint(t) if is_nearly_whole(t) else trunc(t)
+def to_integral(t):
+    return gmpy2.rint(t) if is_nearly_integral(t) else trunc(t)
 
 
 def divisor_of_decimals(a, b):
     most = max(places(a), places(b))
     scale = call("pow", mpfr(10), most)
-    common = divisor_of_doubles(made_whole(a * scale), made_whole(b * scale))
+    common = divisor_of_doubles(to_integral(a * scale), to_integral(b * scale))
     return call("pow", mpfr(10), -most) * common
 
 
@@ -293,7 +293,7 @@ def log_gamma(x):
     return call("log", mpfr(6.5) + x) * (x + mpfr(-0.5)) + u
 
 
-# The functions of the platform, and the calls of them with their values.
+# The functions of the platform, and their calls with the results.
 FUNCTIONS = {
     "atan": gmpy2.atan,
     "exp": gmpy2.exp,
