@@ -1,12 +1,10 @@
-// Compares the numerics with the same functions at 128 bits, and fails where the error exceeds a figure
-// that the contract in QUVARDBS1C.h states. The figures are read in the contracts: each row quotes the
-// words around its figure.
+// Compares the numeric routines with the same functions at 128 bits. Fails if an error exceeds the bound
+// that the contract in QUVARDBS1C.h states. Each check quotes the words of the contract around its bound.
 //
 //   QUVARDAccuracy [--brief]
 //
-// A search draws many random arguments and climbs from the worst of them: it moves arguments by steps of
-// all sizes, keeps what makes the error larger, and ends after many moves without a gain. --brief draws
-// and climbs less. Factorials and binomial coefficients of integers are all tried.
+// Each search draws random arguments and improves the worst of them by hill climbing, with steps of all
+// sizes. --brief draws and climbs less. For factorials and binomial coefficients, all integers are tested.
 #include <algorithm>
 #include <boost/multiprecision/mpfr.hpp>
 #include <cmath>
@@ -28,7 +26,7 @@ namespace {
 
 int samples = 20000;
 int starts = 40;
-int movesWithoutGain = 6000;  // for each argument
+int movesWithoutGain = 6000;  // for each argument, before a climb ends
 
 using Real = boost::multiprecision::number<
     boost::multiprecision::mpfr_float_backend<39, boost::multiprecision::allocate_stack>,
@@ -42,7 +40,7 @@ double relativeError(double actual, const Real& expected) {
   return std::fabs(static_cast<double>((actual - expected) / expected));
 }
 
-// In distances of neighbouring doubles at the correctly rounded result.
+// In units in the last place of the correctly rounded result.
 double ulpError(double actual, const Real& expected) {
   const double value = std::fabs(static_cast<double>(expected));
   return absoluteError(actual, expected) / (std::nextafter(value, INFINITY) - value);
@@ -58,14 +56,14 @@ bool oneIn(int count) { return random64() % static_cast<unsigned>(count) == 0; }
 
 using Arguments = std::vector<double>;
 using Draw = std::function<Arguments()>;
-using Error = std::function<double(const Arguments&)>;  // negative where the arguments do not count
+using Error = std::function<double(const Arguments&)>;  // negative for arguments outside the range
 
 struct Worst {
   Arguments arguments;
   double error = -1.0;
 };
 
-// Some of the arguments moved by a common step, from about the size of one of them to its last bits.
+// Adds one step to some of the arguments. The step is between the size of an argument and its last bits.
 Arguments move(Arguments arguments) {
   const double size = arguments[random64() % arguments.size()];
   const double step = std::ldexp(size * between(-1.0, 1.0), -static_cast<int>(random64() % 54));
@@ -80,9 +78,9 @@ void climb(Worst& worst, const Error& error) {
   const int patience = movesWithoutGain * static_cast<int>(worst.arguments.size());
   for (int moves = 0; moves < patience; ++moves) {
     Arguments arguments = move(worst.arguments);
-    const double found = error(arguments);
-    if (found > worst.error) {
-      worst = {std::move(arguments), found};
+    const double value = error(arguments);
+    if (value > worst.error) {
+      worst = {std::move(arguments), value};
       moves = 0;
     }
   }
@@ -102,7 +100,7 @@ Worst search(const Draw& draw, const Error& error) {
   return *std::min_element(found.begin(), found.end(), isWorse);
 }
 
-// What the contracts say after "Accuracy:", by routine, each on one line.
+// The text after "Accuracy:" in each contract, on one line.
 std::map<std::string, std::string> readContracts() {
   std::ifstream file(QUVARD_HEADER);
   const std::string header((std::istreambuf_iterator<char>(file)), {});
@@ -116,24 +114,24 @@ std::map<std::string, std::string> readContracts() {
   return contracts;
 }
 
-bool isAsStated = true;
+bool allHold = true;
 
-// The figure is the first number of the quotation, and 0 where that says "exact".
+// The bound is the first number of the quotation, or 0 if the quotation starts with "exact".
 void check(const std::string& routine, const std::string& quotation, const Worst& worst) {
   static std::map<std::string, std::string> contracts = readContracts();
   const bool isQuoted = contracts[routine].find(quotation) != std::string::npos;
-  const double stated = quotation.starts_with("exact")
-                            ? 0.0
-                            : std::stod(quotation.substr(quotation.find_first_of("0123456789")));
-  const bool holds = isQuoted && worst.error <= stated;
-  isAsStated = isAsStated && holds;
+  const double bound = quotation.starts_with("exact")
+                           ? 0.0
+                           : std::stod(quotation.substr(quotation.find_first_of("0123456789")));
+  const bool holds = isQuoted && worst.error <= bound;
+  allHold = allHold && holds;
   std::printf("%-18s %9.3g  %-56s", routine.c_str(), worst.error, quotation.c_str());
   for (const double argument : worst.arguments) std::printf(" %.17g", argument);
-  std::printf("%s\n", holds ? "" : isQuoted ? "  WORSE THAN STATED" : "  NOT IN THE CONTRACT");
+  std::printf("%s\n", holds ? "" : isQuoted ? "  EXCEEDS THE BOUND" : "  NOT IN THE CONTRACT");
   std::fflush(stdout);
 }
 
-// A routine of one argument from `low` to `high`, drawn as often in each power of ten.
+// A routine of one argument from `low` to `high`, whose logarithm is uniformly distributed.
 void checkOneArgument(const char* routine, const char* quotation, double low, double high,
                       bool eitherSign, const Error& error) {
   const auto draw = [=] {
@@ -215,9 +213,9 @@ void cnkAccuracy() {
   Worst exact, rounded;
   for (int n = 1; n <= 1020; ++n) {
     Real expected = 1.0;
-    bool isExact = true;  // while the products on the way fit 53 bits
+    bool isExact = true;  // while the products fit 53 bits
     for (int k = 1; 2 * k <= n; ++k) {
-      // The way of Cnk leads through the coefficients of n - k + i over i.
+      // Cnk computes the coefficients of n - k + i over i in turn.
       expected = expected * Real(n - k + 1) / Real(k);
       isExact = isExact && expected * k <= 0x1p53;
       Worst& worst = isExact ? exact : rounded;
@@ -238,14 +236,14 @@ bool areInRange(const Arguments& arguments) {
 
 bool areApart(double a, double b) { return std::fabs(a - b) >= 0.1; }
 
-// Half of the draws are at an end of the range, where the worst data are.
+// Half of the values are at an end of the range, where errors are largest.
 double drawValue() { return oneIn(2) ? std::copysign(1.0, between(-1, 1)) : between(-1, 1); }
 
 double drawAway(double other) {
   return oneIn(2) ? other + std::copysign(0.1000001, between(-1, 1)) : drawValue();
 }
 
-// The arguments are x1, x2, y1, y2 and the one asked.
+// The arguments are x1, x2, y1, y2 and the given x or y.
 void linearAccuracy() {
   const auto draw = [] {
     const double x1 = between(-1, 1), y1 = drawValue();
@@ -270,7 +268,7 @@ void linearAccuracy() {
   check("LinearInterpol", "1.6e-14 inverse", search(draw, inverse));
 }
 
-// The arguments are x1, x2, x3, y1, y2, y3 and the one asked.
+// The arguments are x1, x2, x3, y1, y2, y3 and the given x or y.
 struct Parabola {
   explicit Parabola(const Arguments& p) {
     // Divided differences.
@@ -290,19 +288,19 @@ void quadraticAccuracy() {
     return Arguments{
         x1, x2, drawAway(oneIn(2) ? x1 : x2), drawValue(), drawValue(), drawValue(), drawValue()};
   };
-  const auto counts = [](const Arguments& p) {
+  const auto isInRange = [](const Arguments& p) {
     return areInRange(p) && areApart(p[0], p[1]) && areApart(p[1], p[2]) && areApart(p[0], p[2]) &&
            std::min({std::fabs(p[0]), std::fabs(p[1]), std::fabs(p[2])}) >= 0.01;
   };
   const auto forward = [&](const Arguments& p) {
-    if (!counts(p)) return -1.0;
+    if (!isInRange(p)) return -1.0;
     const Parabola parabola(p);
     double x = p[6], second = 0.0, y = 0.0;
     QuadraticInterpol(p[0], p[1], p[2], p[3], p[4], p[5], &x, &second, &y, QUVARDBS1C_TRUE);
     return absoluteError(y, parabola.c + (parabola.b + parabola.a * Real(x)) * Real(x));
   };
   const auto inverse = [&](const Arguments& p) {
-    if (!counts(p)) return -1.0;
+    if (!isInRange(p)) return -1.0;
     const auto [a, b, c] = Parabola(p);
     double x = 0.0, second = 0.0, y = p[6];
     const Real discriminant = b * b - 4.0 * a * (c - Real(y));
@@ -325,7 +323,7 @@ int main(int argc, char** argv) {
     starts = 6;
     movesWithoutGain = 1500;
   }
-  std::printf("%-18s %9s  %-56s %s\n", "routine", "worst", "stated by its contract", "at");
+  std::printf("%-18s %9s  %-56s %s\n", "routine", "worst", "bound in the contract", "at");
   expm1xAccuracy();
   logExpAccuracy();
   gammaAccuracy();
@@ -333,5 +331,5 @@ int main(int argc, char** argv) {
   cnkAccuracy();
   linearAccuracy();
   quadraticAccuracy();
-  return isAsStated ? 0 : 1;
+  return allHold ? 0 : 1;
 }

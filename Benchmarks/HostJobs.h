@@ -1,5 +1,5 @@
-// Jobs of host routines. Each is compared with its floor: the service calls that hostRoutines() lists
-// for the routine, in the same order, with a result that is computed beforehand.
+// Jobs of host routines. Each is compared with its floor: the service calls that hostRoutines() lists for
+// the routine, in the same order, with the result precomputed.
 #ifndef BENCHMARKS_HOSTJOBS_H
 #define BENCHMARKS_HOSTJOBS_H
 
@@ -18,7 +18,7 @@ namespace benchmarks {
 inline Owned own(BSTR result) { return Owned(result); }
 inline int32_t own(int32_t result) { return result; }
 
-// The first word of a job's name is the routine.
+// The first word of a job's name is the name of the routine.
 inline const Path& pathOf(const std::string& job) {
   static const std::vector<HostRoutine> all = hostRoutines();
   const std::string name = job.substr(0, job.find(' '));
@@ -28,7 +28,7 @@ inline const Path& pathOf(const std::string& job) {
   return *found->path;
 }
 
-// The services as types, so that a floor calls them without a choice at run time.
+// The services are types, so that a floor does not select them at run time.
 struct TakeNothing {
   void operator()(BSTR) const {}
 };
@@ -83,8 +83,8 @@ inline Make makeBy(const std::string& service, const Owned& result) {
 template <std::size_t n>
 Job& addFloor(Job& job, const Path& path, const auto& make, std::array<BSTR, n> texts) {
   if (!path.order.empty()) {
-    const auto given = texts;
-    for (std::size_t i = 0; i < n; ++i) texts[i] = given[path.order[i]];
+    const auto ascending = texts;
+    for (std::size_t i = 0; i < n; ++i) texts[i] = ascending[path.order[i]];
   }
   const auto add = [&]<typename First, typename Others>(First takeFirst, Others takeOther,
                                                         const auto& makeResult) {
@@ -108,23 +108,23 @@ inline BSTR argument(BSTR text) { return text; }
 inline int32_t argument(int32_t number) { return number; }
 inline double argument(double number) { return number; }
 
-// A job of a host routine and its floor. Texts come before numbers.
+// A job of a host routine and its floor. Texts precede numbers.
 template <typename Routine, typename... Arguments>
 Job& addHostJob(const std::string& group, const std::string& name, Routine routine,
                 Arguments... arguments) {
-  const std::tuple kept{argument(arguments)...};
-  const auto call = [=] { return own(std::apply(routine, kept)); };
+  const std::tuple converted{argument(arguments)...};
+  const auto call = [=] { return own(std::apply(routine, converted)); };
   constexpr auto n = (std::size_t{std::is_same_v<decltype(argument(arguments)), BSTR>} + ... + 0);
   const auto texts = [&]<std::size_t... i>(std::index_sequence<i...>) {
-    return std::array<BSTR, n>{std::get<i>(kept)...};
+    return std::array<BSTR, n>{std::get<i>(converted)...};
   }
   (std::make_index_sequence<n>());
   const Path& path = pathOf(name);
   return addFloor(addJob(group, name).add("ours", call), path, makeBy(path.result, call()), texts);
 }
 
-// VB_Replace of one code unit by one changes its text, so every second call changes it back.
-inline auto replaceToAndFro(BSTR text, BSTR pattern, BSTR replacement) {
+// VB_Replace of one code unit by one changes its text. Every second call changes it back.
+inline auto replaceAlternately(BSTR text, BSTR pattern, BSTR replacement) {
   return [=]() mutable {
     Owned result(VB_Replace(text, pattern, replacement));
     std::swap(pattern, replacement);
@@ -134,7 +134,7 @@ inline auto replaceToAndFro(BSTR text, BSTR pattern, BSTR replacement) {
 
 inline Job& addReplaceJob(const std::string& group, const std::u16string& text) {
   const BSTR comma = keep(u","), semicolon = keep(u";"), unchanged = keep(text);
-  auto call = replaceToAndFro(keep(text), comma, semicolon);
+  auto call = replaceAlternately(keep(text), comma, semicolon);
   const Path& path = pathOf("VB_Replace");
   const Make make = makeBy(path.resultInPlace, call());
   call();

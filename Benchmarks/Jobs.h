@@ -1,5 +1,5 @@
-// A job is one piece of work and its contestants: first `ours`, the library's routine, then what it is
-// compared with.
+// A job is a task and its contestants. The first is `ours`, the library's routine; the others are compared
+// with it.
 #ifndef BENCHMARKS_JOBS_H
 #define BENCHMARKS_JOBS_H
 
@@ -21,7 +21,7 @@
 
 namespace benchmarks {
 
-// A result as it is compared: the code units of a text, or numbers.
+// The code units of a text, or numbers.
 using Result = std::vector<double>;
 
 struct Release {
@@ -36,7 +36,7 @@ inline Result resultOf(std::span<const double> numbers) { return {numbers.begin(
 
 struct Contestant {
   std::string name;
-  double calls;  // in one run, or code units of text: times are per call
+  double calls;  // or code units, in one run; times are divided by it
   std::function<void(benchmark::State&)> measure;
   std::function<Result()> run;
 };
@@ -46,7 +46,7 @@ struct Job {
   double tolerance = 0;  // relative
   std::deque<Contestant> contestants = {};
 
-  // `work` does the job once and returns its result.
+  // `work` runs the task once and returns its result.
   template <typename Work>
   Job& add(std::string contestant, Work work, double calls = 1) {
     const auto shared = std::make_shared<Work>(std::move(work));
@@ -59,7 +59,7 @@ struct Job {
   }
 };
 
-// The jobs of the groups that are measured.
+// The jobs of the selected groups.
 inline std::deque<Job> jobs;
 
 inline Job& addJob(const std::string& group, const std::string& name) {
@@ -71,13 +71,13 @@ void addLongJobs();
 void addNumericJobs();
 void addGrowthJobs();
 
-// A host string that lives as long as the program.
+// Returns a host string that is never released.
 inline BSTR keep(const std::u16string& text) {
   static std::deque<Owned> all;
   return all.emplace_back(SysAllocString16(text.c_str())).get();
 }
 
-// `unit` repeated to at least `length` code units, and then `end`.
+// Repeats `unit` to at least `length` code units and appends `end`.
 inline std::u16string repeat(std::u16string_view unit, std::size_t length,
                              std::u16string_view end = u"") {
   std::u16string text;
@@ -85,8 +85,8 @@ inline std::u16string repeat(std::u16string_view unit, std::size_t length,
   return text += end;
 }
 
-// Random letters and blanks with one of the tokens about every ten code units, so that no branch is
-// predictable. The same text at every call.
+// Random letters and blanks, with a token about every ten code units, so that branches are not predictable.
+// The text is the same in every call.
 inline std::u16string mixText(std::size_t length, const std::vector<std::u16string_view>& tokens) {
   constexpr std::u16string_view kLetters = u"eeeeettttaaaooiinnsshhrrdlucmfwypvbgkEATN          ";
   std::mt19937 random(1);

@@ -1,5 +1,5 @@
-// Host routines on a million code units, where what they look for occurs about every ten code units.
-// The peers make the same crossing: from a null-terminated 16-bit text to a new null-terminated one.
+// Host routines on a million code units, with an occurrence about every ten code units. The peers convert
+// between the same kinds of text: from a null-terminated 16-bit text to a new null-terminated one.
 #include <unicode/unistr.h>
 
 #include <boost/algorithm/string.hpp>

@@ -1,4 +1,4 @@
-// Measures groups of jobs, or with --once runs each contestant and compares the results.
+// Measures groups of jobs. With --once, runs each contestant once and compares the results.
 //
 //   QUVARDBenchmarks [--once] [--benchmark_...]... [GROUP]...
 #ifdef __linux__
@@ -15,15 +15,15 @@
 namespace benchmarks {
 namespace {
 
-// For each contestant; scripts/bench takes the least time of many runs.
+// Per contestant. scripts/bench takes the least time of many runs.
 constexpr double kSeconds = 0.005;
 
 bool agree(double a, double b, double tolerance) {
   return a == b || std::fabs(a - b) <= tolerance * std::fabs(a);
 }
 
-// Whether all contestants have our result. Ours runs twice: VB_Replace changes its text back.
-bool isFair(const Job& job) {
+// Whether all contestants return our result. Ours runs twice, since VB_Replace changes its text.
+bool allAgree(const Job& job) {
   const Contestant& ours = job.contestants.front();
   const Result expected = ours.run();
   ours.run();
@@ -67,13 +67,13 @@ int run(std::vector<std::string> arguments) {
   if (arguments.empty()) arguments = {"short", "long", "numerics", "growth"};
   for (const std::string& group : arguments) {
     if (!groups.contains(group)) {
-      std::cerr << "There is no group of benchmarks \"" << group << "\".\n";
+      std::cerr << "unknown group of benchmarks \"" << group << "\"\n";
       return 2;
     }
     groups.at(group)();
   }
   for (const Job& job : jobs) {
-    if (once && !isFair(job)) return 1;
+    if (once && !allAgree(job)) return 1;
     if (!once) registerJob(job);
   }
 #ifdef __clang__
@@ -90,8 +90,8 @@ int run(std::vector<std::string> arguments) {
 
 int main(int argc, char** argv) {
 #ifdef __linux__
-  // Otherwise, for large texts, malloc returns memory to the system at some releases, depending on what
-  // else is allocated, and the page faults that follow take longer than the work.
+  // Otherwise malloc sometimes returns the memory of large texts to the system. The page faults that
+  // follow take longer than the work.
   mallopt(M_MMAP_MAX, 0);
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
 #endif

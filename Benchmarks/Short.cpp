@@ -1,4 +1,4 @@
-// Every host routine on texts of 10 to 50 code units, as macros have them.
+// Every host routine on texts of 10 to 50 code units, as in macros.
 #include "HostJobs.h"
 
 namespace benchmarks {

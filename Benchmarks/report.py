@@ -2,8 +2,8 @@
 
 usage: report.py [--picture FILE.svg | --against OLD_PROGRAM] PROGRAM [GROUP]...
 
-The least time of many short runs hardly depends on what else the machine does. With --against, the runs
-of two copies of the program alternate, each of which loads the libraries in its own folder.
+The least time of many short runs hardly depends on other load. With --against, runs of two copies of the
+program alternate. Each copy loads the libraries in its own folder.
 """
 
 import argparse
@@ -20,7 +20,7 @@ UNITS = {"ns": 1, "us": 1e3, "ms": 1e6}
 
 
 def run(program, groups, *options):
-    """One run: {(group, job): {contestant: nanoseconds of processor time per call}}, and the machine."""
+    """Runs once. Returns {(group, job): {contestant: nanoseconds of CPU time per call}} and the machine."""
     with tempfile.NamedTemporaryFile() as file:
         subprocess.run([program, f"--benchmark_out={file.name}", *options, *groups], check=True,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -35,13 +35,13 @@ def run(program, groups, *options):
 
 
 def measure(programs, groups, *options):
-    """The least times of all runs for each program, and the machine."""
+    """Returns the least times of all runs for each program, and the machine."""
     least = [{} for _ in programs]
     for number in range(1, ROUNDS + 1):
         print(f"\rrun {number} of {ROUNDS}", end="", file=sys.stderr, flush=True)
         for times, program in zip(least, programs):
-            found, machine = run(program, groups, *options)
-            for job, contestants in found.items():
+            results, machine = run(program, groups, *options)
+            for job, contestants in results.items():
                 best = times.setdefault(job, {})
                 for name, time in contestants.items():
                     best[name] = min(time, best.get(name, time))
@@ -89,7 +89,7 @@ def print_comparison(old, new):
 
 
 def draw(times, machine):
-    """Bars of ratios on a logarithmic scale, to the left of 1 where ours is faster."""
+    """Draws ratios as bars on a logarithmic scale. Bars to the left of 1: ours is faster."""
     columns = (
         ("10 to 50 code units: time / floor", "short", ("floor",)),
         ("a million code units: time / floor", "long", ("floor",)),

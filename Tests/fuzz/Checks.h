@@ -19,6 +19,9 @@ const Checks& checksOfTexts();
 const Checks& checksOfNumerics();
 const Checks& checksOfSequences();
 
+// Calls host routines on several threads at once.
+testing::AssertionResult checkSequence(Random& random, std::size_t threads);
+
 // Runs one of the checks.
 inline testing::AssertionResult checkAny(const Checks& checks, Random& random) {
   return checks[random.below(checks.size())].run(random);

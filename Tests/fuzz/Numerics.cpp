@@ -39,7 +39,6 @@ std::tuple<double, double, double> drawSum(Random& random) {
 // The terms are those of Cnk, which has its own check.
 double sumOfTerms(double n, double from, double to) { return reference::sumOf(Cnk, n, from, to); }
 
-std::tuple<int32_t> drawOneInteger(Random& random) { return {drawInteger(random)}; }
 std::tuple<int32_t, int32_t> drawIntegers(Random& random) {
   return {drawInteger(random), drawInteger(random)};
 }
@@ -56,12 +55,10 @@ Check checkOf(const char* name, auto routine, auto reference, auto draw) {
 }  // namespace
 
 const Checks& checksOfNumerics() {
-  static const Checks checks{checkOf("Fact", Fact, reference::Fact, drawOneInteger),
-                             checkOf("Cnk", Cnk, reference::Cnk, drawCoefficient),
+  static const Checks checks{checkOf("Cnk", Cnk, reference::Cnk, drawCoefficient),
                              checkOf("SumCnk", SumCnk, sumOfTerms, drawSum),
                              checkOf("Mod", Mod, reference::Mod, drawIntegers),
                              checkOf("LCD", LCD, reference::LCD, drawIntegers),
-                             checkOf("LCD2", LCD2, reference::LCD2, drawDoubles),
-                             checkOf("LCDDbl", LCDDbl, reference::LCDDbl, drawDoubles)};
+                             checkOf("LCD2", LCD2, reference::LCD2, drawDoubles)};
   return checks;
 }

@@ -1,6 +1,7 @@
-// Sequences of calls of host routines on two threads at once. Results become arguments of later calls on
-// both threads. The thread that did not make a host string releases it.
+// Sequences of calls of host routines on several threads at once. Results become arguments of later calls
+// on all threads. Another thread than the one that made a host string releases it.
 #include <thread>
+#include <utility>
 
 #include "fuzz/Checks.h"
 
@@ -35,7 +36,7 @@ testing::AssertionResult callOnPool(Random random, const std::vector<HostRoutine
       texts.push_back(text);
     }
     const Text expected = routine.expected(texts);
-    // A text that changes must not be in use on the other thread.
+    // A text that changes must not be in use on another thread.
     BSTR copy = nullptr;
     if (routine.worksInPlace(texts)) handles[0] = copy = SysAllocString16(handles[0]);
     Text actual;
@@ -52,45 +53,50 @@ testing::AssertionResult callOnPool(Random random, const std::vector<HostRoutine
   return testing::AssertionSuccess();
 }
 
-testing::AssertionResult checkSequence(Random& random) {
+}  // namespace
+
+testing::AssertionResult checkSequence(Random& random, std::size_t threads) {
   static Numbers numbers;
   static const std::vector<HostRoutine> routines = hostRoutines(numbers);
   Pool initial{{nullptr, kNullHandle}};
-  for (const std::size_t size : {kMaxSize, kMaxSize, std::size_t{1}, std::size_t{1}}) {
-    const B text(drawText(random, {}).substr(0, size));
-    initial.push_back({SysAllocString16(text), text.text()});
+  for (const Text& text : {Text(300, L' '), drawText(random, {}).substr(0, kMaxSize),
+                           random.text(L"ab:", kMaxSize), Text(1, L'a'), Text(1, L':')}) {
+    const B string(text);
+    initial.push_back({SysAllocString16(string), string.text()});
   }
-  auto result = testing::AssertionSuccess(), otherResult = result;
-  Pool made[2],
-      released[2];  // what each thread made in the round before, and what it is to release
+  std::vector<testing::AssertionResult> results(threads, testing::AssertionSuccess());
+  std::vector<Pool> made(threads), next(threads), released(threads);
   for (int round = 0; round < kRounds; ++round) {
     numbers = drawNumbers(random);
-    Pool pool = initial, next[2];
+    Pool pool = initial;
     for (const Pool& strings : made) pool.insert(pool.end(), strings.begin(), strings.end());
-    const auto run = [&](std::size_t thread, Random own) {
-      releaseAll(released[thread]);
-      return callOnPool(own, routines, pool, next[thread]);
-    };
-    Random first(random.below(kSeeds)), second(random.below(kSeeds));
-    std::thread other([&] { otherResult = run(1, second); });
-    result = run(0, first);
-    other.join();
-    if (!otherResult) result = otherResult;
-    for (const auto& [handle, text] : pool) {
-      if (result) result = isSame(textsOf({&handle, 1})[0], text, [] { return "an argument"; });
+    std::vector<std::thread> running;
+    for (std::size_t i = 0; i < threads; ++i) {
+      running.emplace_back([&, i, own = Random(random.below(kSeeds))] {
+        releaseAll(released[i]);
+        results[i] = callOnPool(own, routines, pool, next[i]);
+      });
     }
-    if (!result) return result;
-    for (std::size_t i = 0; i < 2; ++i) released[1 - i] = std::exchange(made[i], next[i]);
+    for (std::thread& thread : running) thread.join();
+    for (const auto& [handle, text] : pool) {
+      results.push_back(isSame(textsOf({&handle, 1})[0], text, [] { return "an argument"; }));
+    }
+    for (const testing::AssertionResult& result : results) {
+      if (!result) return result;
+    }
+    // The next thread releases what this one made, after one round as arguments.
+    for (std::size_t i = 0; i < threads; ++i) {
+      released[(i + 1) % threads] = std::exchange(made[i], std::exchange(next[i], {}));
+    }
   }
-  for (Pool* const pool : {&initial, &made[0], &made[1], &released[0], &released[1]}) {
-    releaseAll(*pool);
-  }
-  return result;
+  releaseAll(initial);
+  for (auto* const pools : {&made, &released})
+    std::for_each(pools->begin(), pools->end(), releaseAll);
+  return testing::AssertionSuccess();
 }
 
-}  // namespace
-
 const Checks& checksOfSequences() {
-  static const Checks checks{{"Sequences", checkSequence}};
+  static const Checks checks{
+      {"Sequences", [](Random& random) { return checkSequence(random, 2); }}};
   return checks;
 }

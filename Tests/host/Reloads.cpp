@@ -17,9 +17,8 @@ constexpr int kLoads = 4;
 std::atomic<char16_t* (*)(char16_t*)> trim;
 std::atomic<void (*)(char16_t*)> release;
 
-template <typename Function>
-void find(std::atomic<Function>& function, void* library, const char* name) {
-  function = reinterpret_cast<Function>(dlsym(library, name));
+void find(auto& function, void* library, const char* name) {
+  function = reinterpret_cast<decltype(function.load())>(dlsym(library, name));
   ASSERT_NE(function, nullptr) << dlerror();
 }
 

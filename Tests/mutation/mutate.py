@@ -1,7 +1,7 @@
-"""Breaks one operator, constant, literal or statement of the libraries at a time, and runs the tests.
+"""Changes one operator, constant, literal or statement of the libraries at a time and runs the tests.
 
-Called by scripts/mutate, in a copy of the checkout. Prints a line for each mutant: whether a test
-noticed it. An equivalent mutant, which no test can notice, is for the reader to recognise.
+scripts/mutate calls this in a copy of the checkout. Prints for each mutant whether a test fails. The
+reader decides which surviving mutants are equivalent to the original.
 """
 import argparse
 import pathlib
@@ -40,7 +40,7 @@ def replacement(kind, text, is_spaced):
 
 
 def mutants_of(path):
-    """(path, number of the line, the line, the line broken, what is broken)"""
+    """Yields (path, index of the line, line, mutated line, description)."""
     for number, line in enumerate(path.read_text().splitlines()):
         if re.match(r"\s*($|#|//|static_assert|using |template|namespace)", line):
             continue
@@ -56,7 +56,7 @@ def mutants_of(path):
 
 
 def run(command, seconds):
-    """Whether a command succeeds within so many seconds of the processor."""
+    """Whether a command succeeds within a CPU time in seconds."""
     limit = lambda: resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
     try:
         return subprocess.run(command, capture_output=True, timeout=600, preexec_fn=limit).returncode == 0
@@ -85,16 +85,16 @@ tests = []
 for command in commands:
     before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
     if not run(command, 300):
-        sys.exit(f"{command[0]} fails before anything is broken.")
+        sys.exit(f"{command[0]} fails without a mutant.")
     tests.append((command, 2 + round(5 * (resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before))))
 mutants = [mutant for path in options.files for mutant in mutants_of(path)]
 if options.sample:
     mutants = random.Random(options.seed).sample(mutants, min(options.sample, len(mutants)))
 counts = {"noticed": 0, "invalid": 0, "survived": 0}
-for path, number, line, broken, change in mutants:
+for path, number, line, mutated, change in mutants:
     text = path.read_text()
     lines = text.splitlines()
-    lines[number] = broken
+    lines[number] = mutated
     path.write_text("\n".join(lines) + "\n")
     try:
         result = outcome(options.build, tests)

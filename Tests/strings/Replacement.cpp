@@ -37,13 +37,6 @@ TEST(Replace, IsLinear) {
                Text(99999, L'b') + L"c", L"");
 }
 
-TEST(VB_Replace, OfNullHandles) {
-  const B text(u"a-b-c"), dash(u"-");
-  EXPECT_EQ(VB_Replace(nullptr, dash, dash), nullptr);
-  EXPECT_EQ(VB_Replace(text, nullptr, dash), BSTR(text));
-  EXPECT_GIVES(VB_Replace, L"abc", L"a-b-c", L"-", nullptr);
-}
-
 TEST(VB_Replace, OneForOneWritesOnlyReplacedUnits) {
   // A text in read-only memory, without an occurrence.
   static const char16_t kFixed[] =

@@ -17,7 +17,7 @@ void onSignal(int signal, siginfo_t* fault, void*) {
   CurrentCall::print();
 }
 
-// The handlers of a sanitizer stay; it calls the functions below.
+// A sanitizer has its own handlers, which call the functions below.
 [[maybe_unused]] const bool isHandled = [] {
   for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL}) {
     struct sigaction action = {}, before = {};

@@ -1,4 +1,4 @@
-// Reference implementations of the numeric routines that the library computes in another way: with
+// Reference implementations of numeric routines for which the library uses another method: with
 // tables, in one step or by other algorithms. The results have the same bits.
 #ifndef TESTS_SUPPORT_NUMERICREFERENCES_H
 #define TESTS_SUPPORT_NUMERICREFERENCES_H
@@ -13,13 +13,6 @@ namespace reference {
 // Truncates toward zero; returns the lowest integer if the result does not fit 32 bits.
 inline int32_t toInt32(double x) {
   return x > -0x1p31 - 1 && x < 0x1p31 ? static_cast<int32_t>(x) : kLowest;
-}
-
-// The product overflows to infinity at 171.
-inline double Fact(int32_t n) {
-  double r = 1.0;
-  for (int32_t i = 2; i <= std::min(n, 171); ++i) r *= i;
-  return r;
 }
 
 // Runs all passes. Infinity and NaN end the loop because they no longer change.
@@ -59,24 +52,6 @@ inline int32_t LCD(int32_t a, int32_t b) {
 inline double LCD2(double a, double b) {
   while (b != 0.0) a = std::exchange(b, Mod(toInt32(a), toInt32(b)));
   return std::fabs(a);
-}
-
-inline double LCDDbl(double a, double b) {
-  // Integral except for the rounding of a decimal and of the multiplications by 10.
-  const auto isIntegral = [](double t) {
-    return std::fabs(t - std::nearbyint(t)) <= std::fabs(t) * 0x1p-48;
-  };
-  double places = 0.0;
-  for (const double x : {a, b}) {
-    double p = 0.0;
-    for (double t = x; std::fabs(std::fmod(t, 1.0)) > 1e-12 && !isIntegral(t); t *= 10.0) p += 1.0;
-    places = std::max(places, p);
-  }
-  const auto scaled = [&](double x) {
-    const double t = x * std::pow(10.0, places);
-    return isIntegral(t) ? std::nearbyint(t) : std::trunc(t);
-  };
-  return std::pow(10.0, -places) * LCD2(scaled(a), scaled(b));
 }
 
 }  // namespace reference

@@ -37,11 +37,6 @@ inline Text StrLRTrim(const Text& s) { return StrLTrim(StrRTrim(s)); }
 inline wchar_t lower(wchar_t unit) { return unit >= L'A' && unit <= L'Z' ? unit + 32 : unit; }
 inline wchar_t upper(wchar_t unit) { return unit >= L'a' && unit <= L'z' ? unit - 32 : unit; }
 
-inline Text StrLCase(Text s) {
-  for (wchar_t& unit : s) unit = lower(unit);
-  return s;
-}
-
 inline Text UpperFirst(Text text) {
   if (!text.empty()) text[0] = upper(text[0]);
   return text;

@@ -1,4 +1,4 @@
-' Calls through a declaration file: the examples of the page of all routines, and what these leave out.
+' Calls through a declaration file: the examples in docs/visual-basic-routines.md and further cases.
 Option Strict On
 Imports QUVARDBS1C.Routines
 
@@ -17,7 +17,7 @@ Partial Module Calls
         Return Math.Min(Failures, 1)
     End Function
 
-    ' What .NET alone has.
+    ' What only .NET has.
     Partial Private Sub CallNet()
     End Sub
 
@@ -29,7 +29,7 @@ Partial Module Calls
         Console.WriteLine(expression & ": expected " & Shown(expected) & ", got " & Shown(actual))
     End Sub
 
-    ' What an action throws: its type and, of a wrong argument, its parameter.
+    ' The type of the exception that an action throws and, for a wrong argument, the parameter.
     Function Thrown(action As Action) As String
         Try
             action()
@@ -74,7 +74,7 @@ Partial Module Calls
         Expect(IsLongP(2.75, 0.2), False)
     End Sub
 
-    ' The caller's String stays as it was whatever the library does to the host string.
+    ' The caller's String does not change, even if the library changes the host string.
     Private Sub CallVBReplace()
         Dim text = "a-b-c"
         Dim result As ReplaceResult
@@ -113,7 +113,7 @@ Partial Module Calls
         Expect(ChrCount(Nothing, "a"), 0)
     End Sub
 
-    ' 800 MB of host strings, if none were released.
+    ' 800 MB of host strings if none is released.
     Private Sub MakeManyResults()
         Const Decimals = 1000000
         Dim formats(0) As String
@@ -126,7 +126,7 @@ Partial Module Calls
             TakeText(HostString(formats(0)))
         Next
         GC.Collect()
-        Dim megabytesKept = (Environment.WorkingSet - before) \ 1000000
-        If megabytesKept > 300 Then Expect(megabytesKept, 0L)
+        Dim megabytes = (Environment.WorkingSet - before) \ 1000000
+        If megabytes > 300 Then Expect(megabytes, 0L)
     End Sub
 End Module

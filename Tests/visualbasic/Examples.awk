@@ -1,4 +1,4 @@
-# Turns the examples on the page of all routines into a module that runs them.
+# Converts the examples in docs/visual-basic-routines.md to a module that runs them.
 BEGIN { print "Imports QUVARDBS1C.Routines\nModule Examples\n  Private i, j As Integer, x, xSecond, y As Double\n  Sub RunExamples()" }
 /^\| `/ {
   example = $0

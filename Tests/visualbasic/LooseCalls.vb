@@ -1,4 +1,4 @@
-' A flag is True or False without strict types too.
+' Flags are True or False without Option Strict, too.
 Option Strict Off
 Option Explicit Off
 Option Infer Off
@@ -22,7 +22,7 @@ Module LooseCalls
         Expect(VB_LocalAN2(text, "Model", "US", upperAdjective:=False), "linear model")
         Expect(VB_LowerFirst("Model", "DE"), "Model")
         Expect(VB_StrLeft(12345, 2.2), "12")
-        ' The name that Imports System.Math had first.
+        ' Imports System.Math has a routine of the same name.
         Expect(Max(Double.NaN, 1), Double.NaN)
     End Sub
 End Module

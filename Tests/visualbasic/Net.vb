@@ -1,4 +1,4 @@
-' What the declarations for .NET have beside those for Applications. It imports nothing of QUVARDBS1C.
+' What only the declarations for .NET have. This file does not import QUVARDBS1C.Routines.
 Option Strict On
 Imports System.Globalization
 Imports System.IO
@@ -23,7 +23,7 @@ Partial Module Calls
         FindDocumentation()
     End Sub
 
-    ' Each value by each pattern that the library has for it, and back.
+    ' Formats each value by each pattern of the library and parses the result.
     Private Sub PrintByPatterns()
         Dim formats(0) As String
         For exponent = -12 To 12
@@ -45,7 +45,7 @@ Partial Module Calls
         ParseBack(0, QUVARDBS1C.VB_OutputFormat(0))
     End Sub
 
-    ' A pattern shows half a unit of its last decimal, and 15 digits.
+    ' The error is at most half a unit of the pattern's last decimal or of the 15th digit.
     Private Sub ParseBack(value As Double, pattern As String)
         Dim printed = QUVARDBS1C.FormatByPattern(value, pattern)
         Dim parts = pattern.Split("E"c)
@@ -61,7 +61,7 @@ Partial Module Calls
         Expect(printed, value.ToString("R", CultureInfo.InvariantCulture), "FormatByPattern of " & pattern)
     End Sub
 
-    ' Each public member has an XML comment, so that an editor shows it.
+    ' Each public member has an XML comment for editors.
     Private Sub FindDocumentation()
         Dim file = Path.ChangeExtension(Assembly.GetExecutingAssembly().Location, ".xml")
         Dim comments = XDocument.Load(file)...<member>.Select(Function(member) member.@name).ToList()

@@ -1,5 +1,5 @@
-# Fails unless a Visual Basic program prints the report of the C++ host, byte by byte, under any
-# locale, and ends as that does when something is wrong.
+# Fails unless a Visual Basic program prints the same bytes as the C++ report program in every locale, and
+# reports errors in the same way.
 file(MAKE_DIRECTORY "${FOLDER}")
 foreach(locale C C.UTF-8 de_DE.ISO-8859-1)
   foreach(arguments "" "état;Größe 𝄞")
@@ -11,7 +11,7 @@ foreach(locale C C.UTF-8 de_DE.ISO-8859-1)
     execute_process(COMMAND diff expected printed WORKING_DIRECTORY "${FOLDER}"
       RESULT_VARIABLE difference)
     if(NOT difference EQUAL 0)
-      message(FATAL_ERROR "LC_ALL=${locale} ${PROGRAM} ${arguments}: not the report of ${REPORT}")
+      message(FATAL_ERROR "LC_ALL=${locale} ${PROGRAM} ${arguments}: output differs from that of ${REPORT}")
     endif()
   endforeach()
 endforeach()

@@ -1,5 +1,5 @@
-' What the declarations cost beside the least that a call from .NET can: DllImport, PtrToStringUni and
-' the release. Measures both in turn, prints the medians, and fails above the limits.
+' The cost of the declarations, compared with the minimum of a call from .NET: DllImport, PtrToStringUni and
+' the release. Measures both alternately, prints the medians, and fails above the limits.
 Option Strict On
 Imports QUVARDBS1C.Routines
 Imports System.Runtime.InteropServices
@@ -70,7 +70,7 @@ Module Speed
 
     Private Sub Compare(Of T)(name As String, limit As Double, declared As Func(Of T), plain As Func(Of T))
         Dim ratio As Double
-        ' Again where something else ran at the same time.
+        ' Again, in case other processes ran at the same time.
         For attempt = 1 To 3
             Dim declaredTimes As New List(Of Double), plainTimes As New List(Of Double)
             For round = 1 To Rounds
@@ -93,7 +93,7 @@ Module Speed
         Return Stopwatch.GetElapsedTime(start).TotalNanoseconds / Calls
     End Function
 
-    ' Of the second half: the first rounds run before the compiler's optimisations.
+    ' Of the second half, since the first rounds run before the compiler optimises.
     Private Function Median(times As List(Of Double)) As Double
         Return times.Skip(Rounds \ 2).OrderBy(Function(time) time).ElementAt(Rounds \ 4)
     End Function

@@ -1,4 +1,4 @@
-' The address of a String, as Visual Basic for Applications has it. The newest 16 stay where they are.
+' The address of a String, as in Visual Basic for Applications. The 16 newest strings do not move.
 Option Strict On
 Imports System.Runtime.InteropServices
 

@@ -1,5 +1,4 @@
-# Fails unless each line of Traps.vb gets from the compiler the errors that its comment names, and no
-# other line gets any.
+# Fails unless the compiler reports exactly the errors that the comments in Traps.vb name, on their lines.
 execute_process(COMMAND "${CMAKE_COMMAND}" --build "${BUILD}" --target VisualBasicTraps
   OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status)
 string(REGEX MATCHALL "[A-Za-z.]+\\([0-9]+,[0-9]+\\): error [A-Z]+[0-9]+" errors "${output}")

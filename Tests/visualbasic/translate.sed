@@ -1,5 +1,5 @@
-# Turns declarations for Visual Basic for Applications on macOS into a module for the .NET compiler,
-# as strict as that language: LongPtr has 64 bits and Long 32, and nothing narrows by itself.
+# Converts declarations for Visual Basic for Applications on macOS to a module for the .NET compiler. Types
+# are as strict: LongPtr has 64 bits, Long has 32, and there is no implicit narrowing.
 /^Attribute VB_Name = /c\
 Option Strict On\
 Namespace Global.QUVARDBS1C\
