@@ -3,7 +3,6 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <barrier>
 #include <thread>
 
@@ -14,20 +13,20 @@ namespace {
 constexpr int kThreads = 8;
 constexpr int kLoads = 4;
 
-std::atomic<char16_t* (*)(char16_t*)> trim;
-std::atomic<void (*)(char16_t*)> release;
+char16_t* (*trim)(char16_t*);
+void (*release)(char16_t*);
 
 void find(auto& function, void* library, const char* name) {
-  function = reinterpret_cast<decltype(function.load())>(dlsym(library, name));
+  function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(dlsym(library, name));
   ASSERT_NE(function, nullptr) << dlerror();
 }
 
 void callWithTextsOfManySizes(int load) {
   for (std::size_t blanks = 0; blanks < 600; blanks += 7) {
     std::u16string text = std::u16string(blanks, u' ') + u"x ";
-    char16_t* const trimmed = trim.load()(text.data());
+    char16_t* const trimmed = trim(text.data());
     EXPECT_EQ(std::u16string(trimmed), u"x") << blanks << " blanks, load " << load;
-    release.load()(trimmed);
+    release(trimmed);
   }
 }
 

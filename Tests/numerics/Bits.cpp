@@ -5,7 +5,6 @@
 // definitions. They return the correctly rounded values in functions.txt, so the results have the same
 // bits on every platform. A call that is not in functions.txt is a failure. On macOS the loader binds
 // the library to the platform's functions, so platform.txt is not read.
-#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iomanip>
@@ -142,27 +141,19 @@ OF_PLATFORM pow(double x, double y) noexcept { return answer("pow", x, y); }
 
 int main(int argc, char** argv) {
   if (argc < 2) return 2;
-  constexpr std::size_t kMaxShown = 10;
   const std::string folder = argv[1], only = argc > 2 ? argv[2] : "";
-  std::vector<std::string> failures;
-  std::size_t rows = 0;
+  std::size_t rows = 0, failures = 0;
   const auto check = [&](const std::string& name, std::istream& row) {
     if (!only.empty() && name != only) return;
     ++rows;
-    const auto routine = kRoutines.find(name);
-    const std::string failure =
-        routine == kRoutines.end() ? " is no routine" : routine->second(row);
-    if (!failure.empty()) failures.push_back(name + failure);
+    const std::string failure = kRoutines.at(name)(row);
+    if (!failure.empty() && ++failures <= 10) std::cout << name << failure << '\n';
   };
   forEachRow(folder + "/functions.txt", addAnswer);
   forEachRow(folder + "/own.txt", check);
 #ifndef __APPLE__
   forEachRow(folder + "/platform.txt", check);
 #endif
-  for (std::size_t i = 0; i < std::min(kMaxShown, failures.size()); ++i) {
-    std::cout << failures[i] << '\n';
-  }
-  if (failures.size() > kMaxShown) std::cout << failures.size() - kMaxShown << " more failures\n";
-  if (rows == 0) std::cout << "No rows of " << (only.empty() ? "any routine" : only) << '\n';
-  return rows > 0 && failures.empty() ? 0 : 1;
+  std::cout << rows << " rows, " << failures << " failures\n";
+  return rows > 0 && failures == 0 ? 0 : 1;
 }
