@@ -1,5 +1,5 @@
-// A C++ program that makes a host string, calls host routines and, if declared, wide routines, and
-// releases the results.
+// A C++ program that makes host strings, calls host and, if it has them, wide routines, and releases the
+// results.
 #include <QUVARDBS1C.h>
 #include <QUVARDCR1C.h>
 

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Installs and uses the library in one of the ways that the README describes, and runs the programs:
+# Goes one way of installing and using the library as a user goes it, and runs what was built:
 #
 #   consumers.sh WAY [ARGUMENT]
 #
-# The script adds no run path, library path or file. What a program needs comes from the package files
-# or from a line in the README.
+# Nothing here adds a run path, a library path or a copied file: what a program needs must come from
+# the package files or from a line that the README gives.
 #
-# Environment: SOURCES and BUILT, the project's source and build folders; WORK, a folder for build trees
-# that are used again; CC, CXX, CFLAGS and CXXFLAGS, which CMake reads; STANDARD_LIBRARY, the C++ standard
-# library of the build; OTHER_LIBRARY, another one.
+# From the environment: SOURCES and BUILT, the project's source and build folders; WORK, a folder
+# for build trees that stay; CC, CXX, CFLAGS and CXXFLAGS, which CMake reads by itself; STANDARD_LIBRARY,
+# the C++ standard library that the build has, and OTHER_LIBRARY.
 set -euo pipefail
 
 consumer=$SOURCES/Tests/consumer
@@ -21,14 +21,14 @@ fail() {
   exit 1
 }
 
-# Runs a command and shows its output only if it fails.
+# Runs a command, and shows its output only if it fails.
 quietly() {
   local output status=0
   output=$("$@" 2>&1) || status=$?
   [ "$status" -eq 0 ] || fail "$output" "Failed with status $status: $*"
 }
 
-# Expects that a program prints "right".
+# Runs a program, which is to print "right".
 expect_right() {
   local output
   output=$("$@" 2>&1) || true
@@ -41,8 +41,8 @@ configure() {
     -D CONSUMER_SOURCES="$SOURCES" "${@:4}"
 }
 
-# A parent project that includes the sources and has its own strict flags. Later tests use its build tree
-# again.
+# The parent project that takes the sources in, with strict flags of its own. Its tree stays, and
+# its libraries serve all ways that need another configuration.
 parent=$WORK/parent
 configure_parent() {
   local strict="-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Werror"
@@ -52,7 +52,7 @@ configure_parent() {
   quietly cmake --build "$parent"
 }
 
-# use_parent WAY [ARGUMENTS OF CMAKE]...: builds, and runs the programs in the build tree and installed.
+# use_parent WAY [ARGUMENTS OF CMAKE]...: builds with them, and runs the programs there and installed.
 use_parent() {
   configure_parent "$@"
   expect_right "$parent/consumer-cxx"
@@ -73,12 +73,12 @@ add_subdirectory() {
 
 fetch_content() { use_parent fetch_content; }
 
-# A parent project that installs the two libraries itself.
+# A parent that installs the two libraries by itself.
 without_install_rules() {
   local rest
   use_parent add_subdirectory -D QUVARDBS1C_INSTALL=OFF
   rest=$(cd -- "$prefix" && find . -name '*QUVARD*' ! -name '*.dll')
-  [ -z "$rest" ] || fail "installed despite QUVARDBS1C_INSTALL=OFF:" "$rest"
+  [ -z "$rest" ] || fail "QUVARDBS1C_INSTALL=OFF, and yet there is:" "$rest"
 }
 
 find_package() { use_package find_package "$1"; }
@@ -102,18 +102,18 @@ use_package() {
   done
 }
 
-# Compiles the C++ and the C program with the flags of pkg-config, and runs them.
+# Compiles the C++ and the C program with what pkg-config says, and runs them.
 compile_by_pkg_config() {
   local flags cxx=$scratch/cxx c=$scratch/c
   flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs QUVARDBS1C)
-  # pkg-config quotes its output for eval and make.
+  # pkg-config quotes what a shell would take apart, for eval or for make.
   eval "quietly \"\$CXX\" ${CXXFLAGS:-} -o \"\$cxx\" \"\$consumer/consumer.cpp\" $flags"
   eval "quietly \"\$CC\" ${CFLAGS:-} -std=c11 -o \"\$c\" \"\$consumer/consumer.c\" $flags"
   expect_right "$cxx"
   expect_right "$c"
 }
 
-# pkg_config LIBDIR: LIBDIR is the value of CMAKE_INSTALL_LIBDIR; "absolute" means an absolute folder.
+# pkg_config LIBDIR, where LIBDIR is as CMAKE_INSTALL_LIBDIR; "absolute" is an absolute folder.
 pkg_config() {
   local libdir=$1
   [ "$libdir" != absolute ] || libdir=$scratch/libraries
@@ -140,7 +140,7 @@ pkg_config_blanks() {
 # The folder of the libraries below a prefix.
 libdir_of() { dirname -- "$(find "$1" -name QUVARDBS1C.dll)"; }
 
-# A host that loads the library at run time: from the build tree, installed, and by a symbolic link.
+# A host that loads the library at run time: from the build tree, installed, by a link.
 load() {
   local host=$scratch/loader libdir
   # shellcheck disable=SC2086
@@ -155,7 +155,7 @@ load() {
   done
 }
 
-# build WAY OPTIONS: the C++ program with further options for compiler and linker.
+# build WAY OPTIONS: the C++ program, compiled and linked with options of its own.
 build() {
   configure "$scratch/$1" "$1" CXX -D CONSUMER_OPTIONS="$2" -D CMAKE_PREFIX_PATH="$prefix" \
     -D CMAKE_UNITY_BUILD=ON
@@ -169,14 +169,14 @@ refused() {
   [[ $output == *"$message"* ]] || fail "$*" "  expected: $message" "  printed:  $output"
 }
 
-# A program with another C++ standard library does not compile with the wide routines. Without them it
-# runs.
+# A program with another C++ standard library than the libraries' is refused. Without the wide routines
+# it runs.
 other_library() {
   local way other="-stdlib=$OTHER_LIBRARY" no_wide=-DQUVARDBS1C_NO_WIDE_ROUTINES flags=${CXXFLAGS:-}
   export CXX=clang++
   # shellcheck disable=SC2086
   echo 'int main() {}' | "$CXX" $flags "$other" -include string -o "$scratch/empty" -x c++ - || {
-    echo "skipped: $CXX has no $OTHER_LIBRARY"
+    echo "not tried: $CXX has no $OTHER_LIBRARY"
     exit 77
   }
   quietly cmake --install "$BUILT" --prefix "$prefix"

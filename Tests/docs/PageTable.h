@@ -1,4 +1,4 @@
-// Tables computed with the library and compared with those in docs/.
+// Tables of the pages in docs/, made by calling the library and compared with what is on the page.
 #ifndef TESTS_DOCS_PAGETABLE_H
 #define TESTS_DOCS_PAGETABLE_H
 
@@ -10,7 +10,7 @@
 
 using Cells = std::vector<std::string>;
 
-// A text in guillemets. Blanks at its ends are shown as ␣, since browsers drop them.
+// Text between guillemets. Blanks at its ends, which a browser would drop, as ␣.
 inline std::string inGuillemets(const Text& text) {
   const auto isOuter = [&text](std::size_t i) {
     return text.find_first_not_of(L' ') > i || i > text.find_last_not_of(L' ');
@@ -28,7 +28,7 @@ inline std::string markdownRow(const Cells& cells) {
   return row + "\n";
 }
 
-// Expects a table with these rows on a page. The first row has the titles.
+// Expects on a page the table with these rows, of which the first has the titles.
 inline void expectTable(const std::string& page, const std::vector<Cells>& rows) {
   const std::string titles = markdownRow(rows.front());
   std::string expected = titles + markdownRow(Cells(rows.front().size(), "---"));
@@ -38,7 +38,7 @@ inline void expectTable(const std::string& page, const std::vector<Cells>& rows)
   const std::size_t start = std::min(text.find(titles), text.size());
   const std::string table = text.substr(start, text.find("\n\n", start) + 1 - start);
   EXPECT_EQ(table, expected) << "The first is in docs/" << page
-                             << ", the second is computed.";
+                             << ", the second what the library gives.";
 }
 
 #endif

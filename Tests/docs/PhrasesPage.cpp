@@ -4,8 +4,8 @@ namespace {
 
 bool has(const std::string& label, const char* word) { return label.find(word) != label.npos; }
 
-// Expects a table with a row for each label, and a column for each set of languages with the same texts in
-// all rows. The first label is the title of the labels.
+// Expects the table that has a row for each label and a column for each set of languages that give
+// the same texts in all rows. The first label is the title of them all.
 void expectTableByLanguage(const Cells& labels,
                            Text (*call)(const std::string& label, const Text& language)) {
   std::vector<Cells> columns{labels};

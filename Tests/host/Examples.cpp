@@ -1,9 +1,10 @@
-// The examples of QUVARDBS1C.h and of the README, which the build extracts.
+// The examples of the chief header and of the README, taken from their texts when the tests are
+// built.
 #include "support/Expectations.h"
 
 namespace {
 
-// A test of each example, named by the routine and by the number of the example.
+// Named by the routine and by the number of the example in the header.
 #define EXAMPLE(routine, ...)                                  \
   addTest(#routine, "Example" + std::to_string(__LINE__), [] { \
     [[maybe_unused]] int32_t i = 0, j = 0;                     \

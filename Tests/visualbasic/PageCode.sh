@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Compiles and runs the code in docs/from-a-macro.md and README.md as a reader does, in a folder with the
-# installed files. Compares the output of each line with the comment at its end.
+# Compiles and runs the code of the page "From a macro" as its reader does, in a folder of its own with
+# what an installation has, and compares what each line prints with the comment at its end.
 #
 #   PageCode.sh first|snippets|applications FOLDER BUILD [DECLARATIONS...]
 set -euo pipefail
@@ -12,7 +12,7 @@ rm -rf -- "$folder"
 mkdir -p -- "$folder"
 cd -- "$folder"
 cmake --install "$build" --prefix "$folder/../$part-installed" >installed.log
-# Moved, not copied, so that no library is found elsewhere.
+# Moved, not copied: a library that is missing here is nowhere else.
 find "$folder/../$part-installed" -name 'QUVARD*.dll' -exec mv {} . ';'
 find "$folder/../$part-installed" -name 'QUVARD*.vb' -exec mv {} . ';'
 [ "$#" -eq 0 ] || { rm QUVARDBS1C.vb && cp -- "$@" .; }
@@ -27,7 +27,7 @@ blocks xml | cut -f 2- >FirstCall.vbproj
 case $part in
   first) blocks vb ^Imports | cut -f 2- >FirstCall.vb ;;
   snippets)
-    # The variables of each block are local.
+    # Each block has variables of its own.
     {
       printf 'Imports QUVARDBS1C.Routines\nModule Page\n  Sub Main()\n'
       blocks vb '^[^I]' | awk -F '\t' '
@@ -47,21 +47,21 @@ case $part in
 esac
 
 sed -n "s/.*Console\.WriteLine(.*  ' //p" FirstCall.vb >expected
-[ -s expected ] || { echo "no code for: $part" >&2; exit 1; }
+[ -s expected ] || { echo "The page has no code for: $part" >&2; exit 1; }
 "${DOTNET:-dotnet}" run >printed || { cat printed; exit 1; }
 diff expected printed
 [ "$part" = first ] || exit 0
 
-# Without a library, the exception of the first call names it.
+# Without a library, the first call says which one to look for.
 program=$(find bin -name FirstCall.dll)
 for library in QUVARDCR1C QUVARDBS1C; do
   rm -- "${program%/*}/$library.dll"
   if "${DOTNET:-dotnet}" "$program" >printed 2>&1; then
-    echo "the program runs without $library.dll" >&2
+    echo "Without $library.dll the program ran." >&2
     exit 1
   fi
   if ! grep -q "DllNotFoundException.*QUVARDBS1C.dll" printed || ! grep -q "$library.dll: " printed; then
-    echo "without $library.dll the program prints:" >&2
+    echo "Without $library.dll the program printed:" >&2
     cat printed
     exit 1
   fi

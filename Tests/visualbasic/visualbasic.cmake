@@ -1,11 +1,11 @@
-# Programs in Visual Basic that call through the declarations. scripts/docs checks that these match the
-# header.
+# Programs in Visual Basic that call through the declarations. (That these are those of the header is
+# checked by scripts/docs.)
 set(hostDir "${PROJECT_SOURCE_DIR}/Hosts/VisualBasic")
 set(testDir "${CMAKE_CURRENT_SOURCE_DIR}/visualbasic")
 set(outDir "${CMAKE_CURRENT_BINARY_DIR}/visualbasic")
 file(MAKE_DIRECTORY "${outDir}")
 
-# A .NET program cannot load libraries with sanitizers or for another processor.
+# A program of .NET cannot load libraries with sanitizers in them, or for another processor.
 if(NOT TARGET VisualBasicReport OR CMAKE_CXX_FLAGS MATCHES "-fsanitize" OR CMAKE_CROSSCOMPILING)
   return()
 endif()
@@ -19,7 +19,7 @@ add_custom_command(OUTPUT "${translated}"
   COMMAND sed -f "${testDir}/translate.sed" -e "s|/usr/lib/libSystem.B.dylib|${memmoveLibrary}|"
     "${hostDir}/QUVARDBS1C.bas" > "${translated}"
   DEPENDS "${hostDir}/QUVARDBS1C.bas" "${testDir}/translate.sed" VERBATIM)
-# Only .NET has FormatByPattern.
+# FormatByPattern is for .NET alone.
 set(examples "${outDir}/Examples.vb")
 set(translatedExamples "${outDir}/TranslatedExamples.vb")
 set(routinesPage "${PROJECT_SOURCE_DIR}/docs/visual-basic-routines.md")
@@ -46,7 +46,7 @@ add_dependencies(VisualBasicPrograms
 
 function(visual_basic_test name)
   add_test(NAME VisualBasic.${name} COMMAND ${ARGN})
-  # The compiler prints no banner and leaves no process running.
+  # For the compiler: no noise, and no process that stays behind.
   set_tests_properties(VisualBasic.${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
     "DOTNET=${QUVARDBS1C_DOTNET};DOTNET_CLI_HOME=${PROJECT_BINARY_DIR}/dotnet;DOTNET_NOLOGO=1;DOTNET_CLI_TELEMETRY_OPTOUT=1;DOTNET_GENERATE_ASPNET_CERTIFICATE=false;MSBUILDDISABLENODEREUSE=1;UseSharedCompilation=false")
 endfunction()
