@@ -5,10 +5,9 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <stdexcept>
+#include <string>
 #include <tuple>
-#include <variant>
 
 #include "Jobs.h"
 #include "support/HostRoutines.h"
@@ -28,77 +27,48 @@ inline const Path& pathOf(const std::string& job) {
   return *found->path;
 }
 
-// The services are types, so that a floor does not select them at run time.
-struct TakeNothing {
-  void operator()(BSTR) const {}
-};
-struct TakeWide {
-  void operator()(BSTR text) const { benchmark::DoNotOptimize(CW162W32(text)); }
-};
-struct TakeUnits {
-  void operator()(BSTR text) const { benchmark::DoNotOptimize(wcslen16(text)); }
-};
-struct TakeObject {
-  void operator()(BSTR text) const { benchmark::DoNotOptimize(convertBSTRtoWstring(text)); }
-};
-struct MakeNumber {
-  int32_t number;
-  int32_t operator()() const { return number; }
-};
-struct MakeFromWide {
-  std::wstring text;
-  Owned operator()() const { return Owned(SysAllocString2(text.c_str())); }
-};
-struct MakeFromUnits {
-  std::u16string text;
-  Owned operator()() const { return Owned(SysAllocString16(text.c_str())); }
-};
-struct MakeFromObject {
-  std::wstring text;
-  Owned operator()() const { return Owned(convertWstringToBSTR(text)); }
-};
-using Take = std::variant<TakeNothing, TakeWide, TakeUnits, TakeObject>;
-using Make = std::variant<MakeFromWide, MakeFromUnits, MakeFromObject>;
-
-inline Take takeBy(const std::string& service) {
-  static const std::map<std::string, Take> services{{"", TakeNothing()},
-                                                    {"CW162W32", TakeWide()},
-                                                    {"wcslen16", TakeUnits()},
-                                                    {"convertBSTRtoWstring", TakeObject()}};
-  return services.at(service);
-}
-
-inline std::variant<MakeNumber> makeBy(const std::string&, int32_t number) {
-  return MakeNumber{number};
-}
-inline Make makeBy(const std::string& service, const Owned& result) {
-  const std::u16string text = result.get();
-  const std::wstring wide(text.begin(), text.end());
-  const std::map<std::string, Make> services{{"SysAllocString2", MakeFromWide{wide}},
-                                             {"SysAllocString16", MakeFromUnits{text}},
-                                             {"convertWstringToBSTR", MakeFromObject{wide}}};
-  return services.at(service);
-}
-
+// Adds the floor. Each service is a type of its own, so that the floor does not select it at run time.
 template <std::size_t n>
-Job& addFloor(Job& job, const Path& path, const auto& make, std::array<BSTR, n> texts) {
-  if (!path.order.empty()) {
-    const auto ascending = texts;
-    for (std::size_t i = 0; i < n; ++i) texts[i] = ascending[path.order[i]];
-  }
-  const auto add = [&]<typename First, typename Others>(First takeFirst, Others takeOther,
-                                                        const auto& makeResult) {
-    if constexpr (std::is_same_v<First, Others> || std::is_same_v<Others, TakeUnits>) {
-      job.add("floor", [=] {
-        if constexpr (n > 0) takeFirst(texts[0]);
-        for (std::size_t i = 1; i < n; ++i) takeOther(texts[i]);
-        return makeResult();
-      });
+Job& addFloor(Job& job, const Path& path, const std::string& resultService, const auto& result,
+              std::array<BSTR, n> texts) {
+  const auto ascending = texts;
+  std::transform(path.order.begin(), path.order.end(), texts.begin(),
+                 [&](std::size_t i) { return ascending[i]; });
+  const auto addWith = [&](auto first, auto others, auto make) {
+    job.add("floor", [=] {
+      if constexpr (n > 0) {
+        first(texts[0]);
+        for (std::size_t i = 1; i < n; ++i) others(texts[i]);
+      }
+      return make();
+    });
+  };
+  const auto addTaking = [&](auto first, auto others) {
+    if constexpr (std::is_same_v<decltype(result), const int32_t&>) {
+      addWith(first, others, [result] { return result; });
     } else {
-      throw std::logic_error("no floor takes texts by " + path.first + " and " + path.others);
+      const std::u16string text = result.get();
+      const std::wstring wide(text.begin(), text.end());
+      if (resultService == "SysAllocString16") {
+        addWith(first, others, [text] { return Owned(SysAllocString16(text.c_str())); });
+      } else if (resultService == "convertWstringToBSTR") {
+        addWith(first, others, [wide] { return Owned(convertWstringToBSTR(wide)); });
+      } else {
+        addWith(first, others, [wide] { return Owned(SysAllocString2(wide.c_str())); });
+      }
     }
   };
-  std::visit(add, takeBy(path.first), takeBy(path.others), make);
+  const auto nothing = [](BSTR) {};
+  const auto wide = [](BSTR text) { benchmark::DoNotOptimize(CW162W32(text)); };
+  const auto units = [](BSTR text) { benchmark::DoNotOptimize(wcslen16(text)); };
+  const auto object = [](BSTR text) { benchmark::DoNotOptimize(convertBSTRtoWstring(text)); };
+  const std::string services = path.first + " " + path.others;
+  if (services == " ") addTaking(nothing, nothing);
+  if (services == "CW162W32 CW162W32") addTaking(wide, wide);
+  if (services == "CW162W32 wcslen16") addTaking(wide, units);
+  if (services == "wcslen16 wcslen16") addTaking(units, units);
+  if (services == "convertBSTRtoWstring convertBSTRtoWstring") addTaking(object, object);
+  if (job.contestants.size() != 2) throw std::logic_error("no floor with the services " + services);
   return job;
 }
 
@@ -120,7 +90,7 @@ Job& addHostJob(const std::string& group, const std::string& name, Routine routi
   }
   (std::make_index_sequence<n>());
   const Path& path = pathOf(name);
-  return addFloor(addJob(group, name).add("ours", call), path, makeBy(path.result, call()), texts);
+  return addFloor(addJob(group, name).add("ours", call), path, path.result, call(), texts);
 }
 
 // VB_Replace of one code unit by one changes its text. Every second call changes it back.
@@ -136,10 +106,10 @@ inline Job& addReplaceJob(const std::string& group, const std::u16string& text) 
   const BSTR comma = keep(u","), semicolon = keep(u";"), unchanged = keep(text);
   auto call = replaceAlternately(keep(text), comma, semicolon);
   const Path& path = pathOf("VB_Replace");
-  const Make make = makeBy(path.resultInPlace, call());
+  const Owned result = call();
   call();
-  return addFloor(addJob(group, "VB_Replace one for one").add("ours", call), path, make,
-                  std::array{unchanged, comma, semicolon});
+  return addFloor(addJob(group, "VB_Replace one for one").add("ours", call), path,
+                  path.resultInPlace, result, std::array{unchanged, comma, semicolon});
 }
 
 }  // namespace benchmarks
