@@ -5,31 +5,22 @@
 
 namespace {
 
-ServiceCalls expectedServiceCalls(const HostRoutine& routine, const Texts& texts,
-                                  const Text& result) {
+// Service calls are compared as lines, since GoogleTest shows which lines differ.
+std::string lineOf(const std::string& service, const Text& text) {
+  return service.empty() ? "" : service + "(" + testing::PrintToString(text) + ")\n";
+}
+
+std::string expectedLines(const HostRoutine& routine, const Texts& texts, const Text& result) {
   const Path& path = *routine.path;
-  ServiceCalls calls;
-  const auto add = [&calls](const std::string& service, const Text& text) {
-    if (!service.empty()) calls.emplace_back(service, text);
-  };
-  if (routine.isEndedBy(texts)) return calls;
+  std::string lines;
+  if (routine.isEndedBy(texts)) return lines;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const std::size_t argument = path.order.empty() ? i : path.order[i];
     const bool isNull = texts[argument] == kNullHandle;
     if (isNull && &path != &kObject) continue;
-    add(argument == 0 ? path.first : path.others, isNull ? L"" : texts[argument]);
+    lines += lineOf(argument == 0 ? path.first : path.others, isNull ? L"" : texts[argument]);
   }
-  add(routine.worksInPlace(texts) ? path.resultInPlace : path.result, result);
-  return calls;
-}
-
-// A line for each call, since GoogleTest shows how lines differ.
-std::string linesOf(const ServiceCalls& calls) {
-  std::string lines;
-  for (const auto& [service, text] : calls) {
-    lines += service + "(" + testing::PrintToString(text) + ")\n";
-  }
-  return lines;
+  return lines + lineOf(routine.worksInPlace(texts) ? path.resultInPlace : path.result, result);
 }
 
 void check(const HostRoutine& routine, Texts texts) {
@@ -39,7 +30,9 @@ void check(const HostRoutine& routine, Texts texts) {
   const std::size_t aliveBefore = recording.alive.size();
   recording.calls.clear();
   EXPECT_EQ(routine.call(strings.handles()), expected);
-  EXPECT_EQ(linesOf(recording.calls), linesOf(expectedServiceCalls(routine, texts, expected)));
+  std::string lines;
+  for (const auto& [service, text] : recording.calls) lines += lineOf(service, text);
+  EXPECT_EQ(lines, expectedLines(routine, texts, expected));
   EXPECT_EQ(recording.alive.size(), aliveBefore) << "host strings exist after the call";
   if (routine.worksInPlace(texts)) texts[0] = expected;
   EXPECT_EQ(strings.texts(), texts) << "are the arguments after the call";
