@@ -13,6 +13,7 @@ declarations=$(awk '/^QUVARDBS1C_API /{d=""} {d=d $0} /;/{if(d~/^QUVARDBS1C_API 
 names() { sed -E 's/\(.*//; s/.*[ *]//' | sort; }
 listed() { sed '/^#/d' "$@" | sort; }
 
+# shellcheck disable=SC2016
 case $what in
   listed) diff <(names <<<"$declarations") <(listed "$@" | c++filt -n | cut -d'(' -f1 | sort) ;;
   exported) diff <(listed "${@:2}") <(eval "$1" | sort) ;;
