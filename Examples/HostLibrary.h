@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 
+// Before QUVARDCR1C.hpp, which overloads some routines: decltype(&LinearInterpol) is ambiguous there.
 #include "QUVARDBS1C.h"
 #include "QUVARDCR1C.h"
 

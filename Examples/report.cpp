@@ -9,7 +9,7 @@
 
 #include "HostLibrary.h"
 #include "PatternPrinter.h"
-#include "Utf8.h"
+#include "QUVARDCR1C.hpp"
 
 namespace {
 
@@ -34,11 +34,11 @@ class Report {
   using Owned = std::unique_ptr<char16_t, void (*)(BSTR)>;
   Owned own(BSTR handle) const { return {handle, host_.releaseBSTR}; }
   Owned text(const std::string& utf8) const {
-    return own(host_.SysAllocString16(unitsOfUtf8(utf8).c_str()));
+    return own(host_.SysAllocString16(quvard::utf16FromUtf8(utf8).c_str()));
   }
 
   // The text of a result, which is released.
-  std::string take(BSTR result) const { return utf8OfUnits(own(result).get()); }
+  std::string take(BSTR result) const { return quvard::utf8FromUtf16(own(result).get()); }
 
   // Calls a host routine with texts and scalars, and takes its result.
   template <typename Routine, typename... Arguments>

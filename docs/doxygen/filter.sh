@@ -2,7 +2,7 @@
 # What Doxygen reads in place of a header or a page.
 case $1 in
   # In a contract these are paragraphs with a title.
-  *.h) exec sed -E 's,^/// (@b )?(Method|Accuracy|Example):,/// @titled{\2},' "$1" ;;
+  *.h | *.hpp) exec sed -E 's,^/// (@b )?(Method|Accuracy|Example):,/// @titled{\2},' "$1" ;;
 esac
 # A link to a file that is not in the reference becomes text. Doxygen knows no code in the text of a link,
 # no heading of a page that it leads to, and no single quotation mark between single backquotes.
