@@ -41,6 +41,10 @@ install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/InstallPaths.cmake")
 
 # A parent project makes packages of its own.
 if(PROJECT_IS_TOP_LEVEL)
+  add_custom_target(uninstall
+    COMMAND "${CMAKE_COMMAND}" "-DMANIFEST=${CMAKE_BINARY_DIR}/install_manifest.txt"
+      -P "${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake" VERBATIM)
+
   # The section of this version, in Debian's form; in packages alone.
   file(READ CHANGELOG.md changes)
   string(REGEX REPLACE "^.*\n## ${PROJECT_VERSION}\n" "\n" changes "${changes}")

@@ -1,12 +1,15 @@
 #include "QUVARDCR1C.hpp"
 
-#include "support/Expectations.h"
+#include <gtest/gtest.h>
 
 using quvard::call;
 using quvard::HostString;
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 namespace {
+
+using Row = std::pair<std::string, std::u16string>;
 
 static_assert(quvard::hostBool(true) == -1 && quvard::hostBool(false) == 0);
 static_assert(!std::is_copy_constructible_v<HostString> && !std::is_copy_assignable_v<HostString>);
@@ -42,12 +45,12 @@ static_assert(routinesThatTake<bool> == 0);
 
 TEST(HostString, WellFormedUtf8ThereAndBack) {
   for (const auto& [utf8, utf16] :
-       {row(""s, u""s), row("a\x7F"s, u"a\x7F"s), row("a\0b"s, u"a\0b"s),
-        row("\xC2\x80\xDF\xBF"s, u"\x80\x7FF"s), row("\xE0\xA0\x80\xEF\xBF\xBF"s, u"\x800\xFFFF"s),
-        row("\xED\x9F\xBF\xEE\x80\x80"s, u"\xD7FF\xE000"s),
-        row("linéaire モデル"s, u"linéaire モデル"s),
-        row("\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"s, u"\xD800\xDC00\xDBFF\xDFFF"s),
-        row("\xF0\x9D\x84\x9E\xF3\xBF\xBF\xBF"s, u"\xD834\xDD1E\xDBBF\xDFFF"s)}) {
+       {Row(""s, u""s), Row("a\x7F"s, u"a\x7F"s), Row("a\0b"s, u"a\0b"s),
+        Row("\xC2\x80\xDF\xBF"s, u"\x80\x7FF"s), Row("\xE0\xA0\x80\xEF\xBF\xBF"s, u"\x800\xFFFF"s),
+        Row("\xED\x9F\xBF\xEE\x80\x80"s, u"\xD7FF\xE000"s),
+        Row("linéaire モデル"s, u"linéaire モデル"s),
+        Row("\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"s, u"\xD800\xDC00\xDBFF\xDFFF"s),
+        Row("\xF0\x9D\x84\x9E\xF3\xBF\xBF\xBF"s, u"\xD834\xDD1E\xDBBF\xDFFF"s)}) {
     EXPECT_EQ(quvard::utf16FromUtf8(utf8), utf16);
     EXPECT_EQ(quvard::utf8FromUtf16(utf16), utf8);
   }
@@ -55,24 +58,24 @@ TEST(HostString, WellFormedUtf8ThereAndBack) {
 
 TEST(HostString, EachMaximalSubpartOfMalformedUtf8IsReplaced) {
   for (const auto& [utf8, expected] :
-       {row("\x80z\xBF"s, u"�z�"s),                    // continuation bytes alone
-        row("\xC0\xAF\xC1\xBF"s, u"����"s),            // overlong, two bytes
-        row("\xE0\x80\x80\xE0\x9F\xBF"s, u"������"s),  // overlong, three bytes
-        row("\xF0\x80\x80\x80\xF0\x8F\xBF\xBF"s, u"��������"s),
-        row("\xED\xA0\x80\xED\xBF\xBF"s, u"������"s),  // surrogates
-        row("\xF4\x90\x80\x80"s, u"����"s),            // above U+10FFFF
-        row("\xF5\x80\xFE\xFF"s, u"����"s),            // no lead bytes
-        row("\xC3"s, u"�"s), row("\xC3z"s, u"�z"s),    // cut off
-        row("\xE2\x82x\xE2\x82"s, u"�x�"s), row("\xF0\x9D\x84\xC3\xA9"s, u"�é"s),
-        row("\xF0\x9D\xE2\x82\xAC"s, u"�€"s), row("\xF0\xF0\x9D\x84\x9E"s, u"�𝄞"s)}) {
+       {Row("\x80z\xBF"s, u"�z�"s),                    // continuation bytes alone
+        Row("\xC0\xAF\xC1\xBF"s, u"����"s),            // overlong, two bytes
+        Row("\xE0\x80\x80\xE0\x9F\xBF"s, u"������"s),  // overlong, three bytes
+        Row("\xF0\x80\x80\x80\xF0\x8F\xBF\xBF"s, u"��������"s),
+        Row("\xED\xA0\x80\xED\xBF\xBF"s, u"������"s),  // surrogates
+        Row("\xF4\x90\x80\x80"s, u"����"s),            // above U+10FFFF
+        Row("\xF5\x80\xFE\xFF"s, u"����"s),            // no lead bytes
+        Row("\xC3"s, u"�"s), Row("\xC3z"s, u"�z"s),    // cut off
+        Row("\xE2\x82x\xE2\x82"s, u"�x�"s), Row("\xF0\x9D\x84\xC3\xA9"s, u"�é"s),
+        Row("\xF0\x9D\xE2\x82\xAC"s, u"�€"s), Row("\xF0\xF0\x9D\x84\x9E"s, u"�𝄞"s)}) {
     EXPECT_EQ(quvard::utf16FromUtf8(utf8), expected) << testing::PrintToString(utf8);
   }
 }
 
 TEST(HostString, UnpairedSurrogatesAreReplacedInUtf8) {
-  for (const auto& [utf16, expected] :
-       {row(u"\xD800x\xDC00"s, "�x�"s), row(u"\xDBFF"s, "�"s), row(u"\xDFFF\xD800"s, "��"s),
-        row(u"\xD834\xD834\xDD1E\xDD1E"s, "�𝄞�"s), row(u"\xD800\xE000"s, "�\xEE\x80\x80"s)}) {
+  for (const auto& [expected, utf16] :
+       {Row("�x�", u"\xD800x\xDC00"), Row("�", u"\xDBFF"), Row("��", u"\xDFFF\xD800"),
+        Row("�𝄞�", u"\xD834\xD834\xDD1E\xDD1E"), Row("�\xEE\x80\x80", u"\xD800\xE000")}) {
     EXPECT_EQ(quvard::utf8FromUtf16(utf16), expected);
   }
 }

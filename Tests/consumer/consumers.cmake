@@ -13,6 +13,8 @@ set(ways
   pkg_config_blanks
   pkg_check_modules
   load
+  uninstall
+  static
   other_library)
 foreach(way IN LISTS ways)
   separate_arguments(arguments UNIX_COMMAND "${way}")

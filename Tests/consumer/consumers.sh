@@ -35,6 +35,13 @@ expect_right() {
   [ "$output" = right ] || fail "$*" "  expected: right" "  printed:  $output"
 }
 
+# refused MESSAGE COMMAND...: expects the command to fail with the message.
+refused() {
+  local output message=$1
+  ! output=$("${@:2}" 2>&1) || fail "${*:2}" "  expected an error: $message"
+  [[ $output == *"$message"* ]] || fail "${*:2}" "  expected: $message" "  printed:  $output"
+}
+
 # configure TREE WAY LANGUAGES [ARGUMENTS OF CMAKE]...
 configure() {
   quietly cmake -S "$consumer" -B "$1" -D CONSUMER_WAY="$2" -D CONSUMER_LANGUAGES="$3" \
@@ -155,6 +162,27 @@ load() {
   done
 }
 
+# Removes what was installed, leaves the files of others, and says when there is nothing to remove.
+uninstall() {
+  local before after
+  prefix="$scratch/in stalled ü"
+  mkdir -p -- "$prefix/lib" "$prefix/share/doc/quvardbs1c"
+  touch -- "$prefix/lib/other" "$prefix/share/doc/quvardbs1c/notes"
+  before=$(find "$prefix" -type f)
+  quietly cmake --install "$BUILT" --prefix "$prefix"
+  rm -- "$prefix/share/doc/quvardbs1c/copyright"
+  quietly cmake --build "$BUILT" --target uninstall
+  after=$(find "$prefix" -type f -o -path '*quvardbs1c/*' -o -path '*QUVARDBS1C*')
+  [ "$before" = "$after" ] || fail "expected after uninstalling:" "$before" "found:" "$after"
+  refused "Nothing to uninstall" cmake --build "$BUILT" --target uninstall
+}
+
+static() {
+  refused "are shared libraries only" cmake -S "$SOURCES" -B "$scratch/static" -D BUILD_SHARED_LIBS=OFF
+  # A parent project may have static libraries of its own.
+  use_parent add_subdirectory -D BUILD_SHARED_LIBS=OFF
+}
+
 # build WAY OPTIONS: the C++ program, compiled and linked with options of its own.
 build() {
   configure "$scratch/$1" "$1" CXX -D CONSUMER_OPTIONS="$2" -D CMAKE_PREFIX_PATH="$prefix" \
@@ -162,16 +190,10 @@ build() {
   quietly cmake --build "$scratch/$1"
 }
 
-# refused COMMAND...: fails with a message that names both C++ standard libraries.
-refused() {
-  local output message="built with $STANDARD_LIBRARY and this program uses $OTHER_LIBRARY"
-  ! output=$("$@" 2>&1) || fail "$*" "  expected an error: $message"
-  [[ $output == *"$message"* ]] || fail "$*" "  expected: $message" "  printed:  $output"
-}
-
 # A program with another C++ standard library than the libraries' is refused. Without the wide routines
 # it runs.
 other_library() {
+  local message="built with $STANDARD_LIBRARY and this program uses $OTHER_LIBRARY"
   local way other="-stdlib=$OTHER_LIBRARY" no_wide=-DQUVARDBS1C_NO_WIDE_ROUTINES flags=${CXXFLAGS:-}
   export CXX=clang++
   # shellcheck disable=SC2086
@@ -181,11 +203,11 @@ other_library() {
   }
   quietly cmake --install "$BUILT" --prefix "$prefix"
   for way in find_package add_subdirectory; do
-    refused build "$way" "$other"
+    refused "$message" build "$way" "$other"
     build "$way" "$other;$no_wide"
     expect_right "$scratch/$way/consumer-cxx"
   done
-  CXXFLAGS="$flags $other" refused compile_by_pkg_config "$(libdir_of "$prefix")"
+  CXXFLAGS="$flags $other" refused "$message" compile_by_pkg_config "$(libdir_of "$prefix")"
   CXXFLAGS="$flags $other $no_wide" compile_by_pkg_config "$(libdir_of "$prefix")"
 }
 
