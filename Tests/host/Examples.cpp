@@ -1,5 +1,4 @@
-// The examples of the chief header and of the README, taken from their texts when the tests are
-// built.
+// The examples of the chief header, extracted when the tests are built.
 #include "support/Expectations.h"
 
 namespace {
@@ -17,9 +16,3 @@ namespace {
 }();
 
 }  // namespace
-
-TEST(Readme, Calls) {
-#include "ReadmeCalls.inc"
-  EXPECT_EQ(phrase, L"Linear model");
-  EXPECT_EQ(list, u"a, b, c");
-}

@@ -19,8 +19,7 @@ find "$folder/../$part-installed" -name 'QUVARD*.vb' -exec mv {} . ';'
 
 # blocks LANGUAGE [START]: see blocks.awk. Programs begin with Imports.
 blocks() {
-  awk -v "language=$1" -v "start=${2:-}" -f "$root/Tests/docs/blocks.awk" \
-    "$root/docs/from-a-macro.md" "$root/README.md"
+  awk -v "language=$1" -v "start=${2:-}" -f "$root/Tests/docs/blocks.awk" "$root/docs/from-a-macro.md"
 }
 
 blocks xml | cut -f 2- >FirstCall.vbproj

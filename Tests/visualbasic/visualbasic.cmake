@@ -68,4 +68,9 @@ foreach(part first snippets applications)
   endif()
   visual_basic_test(PageCode.${part}
     "${testDir}/PageCode.sh" ${part} "${outDir}/${part}" "${PROJECT_BINARY_DIR}" ${declarations})
+  # The target uninstall removes what was installed last.
+  set_property(TEST VisualBasic.PageCode.${part} PROPERTY RESOURCE_LOCK consumers)
 endforeach()
+visual_basic_test(Readme
+  "${CMAKE_CURRENT_SOURCE_DIR}/docs/ReadmeProgram.sh" vb "${PROJECT_BINARY_DIR}")
+set_property(TEST VisualBasic.Readme PROPERTY RESOURCE_LOCK consumers)
