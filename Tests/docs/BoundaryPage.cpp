@@ -30,8 +30,8 @@ std::string resultOfNullHandles(const HostRoutine& routine) {
 
 }  // namespace
 
-TEST(BoundaryPage, WayOfEachHostRoutine) {
-  std::vector<Cells> rows{{"Routine", "Host strings", "In", "Out", "Null handles give"}};
+TEST(BoundaryPage, ServicesOfEachHostRoutine) {
+  std::vector<Cells> rows{{"Routine", "Host strings", "In", "Out", "Result for null handles"}};
   for (const HostRoutine& routine : hostRoutines()) {
     if (routine.path == &kHandlesAlone) continue;  // no text crosses
     rows.push_back({nameOf(routine.name), std::to_string(routine.strings), inOf(routine),

@@ -1,4 +1,4 @@
-// Tables of the pages in docs/, made by calling the library and compared with what is on the page.
+// Compares tables of the pages in docs/ with the results of the library.
 #ifndef TESTS_DOCS_PAGETABLE_H
 #define TESTS_DOCS_PAGETABLE_H
 
@@ -10,7 +10,7 @@
 
 using Cells = std::vector<std::string>;
 
-// Text between guillemets. Blanks at its ends, which a browser would drop, as ␣.
+// The text between guillemets, with blanks at its ends as ␣, because browsers drop them.
 inline std::string inGuillemets(const Text& text) {
   const auto isOuter = [&text](std::size_t i) {
     return text.find_first_not_of(L' ') > i || i > text.find_last_not_of(L' ');
@@ -28,7 +28,7 @@ inline std::string markdownRow(const Cells& cells) {
   return row + "\n";
 }
 
-// Expects on a page the table with these rows, of which the first has the titles.
+// Expects the page to contain a table with these rows; the first row has the titles.
 inline void expectTable(const std::string& page, const std::vector<Cells>& rows) {
   const std::string titles = markdownRow(rows.front());
   std::string expected = titles + markdownRow(Cells(rows.front().size(), "---"));
@@ -37,8 +37,8 @@ inline void expectTable(const std::string& page, const std::vector<Cells>& rows)
   const std::string text(std::istreambuf_iterator<char>(file), {});
   const std::size_t start = std::min(text.find(titles), text.size());
   const std::string table = text.substr(start, text.find("\n\n", start) + 1 - start);
-  EXPECT_EQ(table, expected) << "The first is in docs/" << page
-                             << ", the second what the library gives.";
+  EXPECT_EQ(table, expected) << "First the table in docs/" << page
+                             << ", then the results of the library.";
 }
 
 #endif

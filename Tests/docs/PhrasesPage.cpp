@@ -4,8 +4,8 @@ namespace {
 
 bool has(const std::string& label, const char* word) { return label.find(word) != label.npos; }
 
-// Expects the table that has a row for each label and a column for each set of languages that give
-// the same texts in all rows. The first label is the title of them all.
+// Expects a table with one row per label, and one column for all languages with the same results in every
+// row. The first label is the title of the first column.
 void expectTableByLanguage(const Cells& labels,
                            Text (*call)(const std::string& label, const Text& language)) {
   std::vector<Cells> columns{labels};
@@ -32,6 +32,20 @@ void expectTableByLanguage(const Cells& labels,
 }
 
 }  // namespace
+
+TEST(PhrasesPage, Languages) {
+  std::vector<Cells> rows{{"Code", "Language", "`VB_LocalAN(\"linear\", \"Model\", code)`"}};
+  for (const auto& [code, language] :
+       {std::pair("ES", "Spanish"), std::pair("FR", "French"), std::pair("IT", "Italian"),
+        std::pair("PT", "Portuguese"), std::pair("PL", "Polish"), std::pair("US", "English"),
+        std::pair("DE", "German"), std::pair("JP", "Japanese"), std::pair("CS", "Czech"),
+        std::pair("CN", "Chinese")}) {
+    const std::string text = code;
+    const Text phrase = LocalAN(L"linear", L"Model", Text(text.begin(), text.end()), -1, 0, 0);
+    rows.push_back({code, language, inGuillemets(phrase)});
+  }
+  for (const char* const page : {"phrases.md", "from-a-macro.md"}) expectTable(page, rows);
+}
 
 TEST(PhrasesPage, EachLanguageWithEachFlag) {
   expectTableByLanguage({"Flags set", "none", "`upperAdjective`", "`lowerResult`", "`noBlank`",
@@ -87,12 +101,12 @@ TEST(PhrasesPage, Inflection) {
 }
 
 TEST(PhrasesPage, MarkupTokens) {
-  std::vector<Cells> rows{{"Text", "Becomes the unit"}};
+  std::vector<Cells> rows{{"Text", "Result"}};
   for (const std::string token : {"<BR>", "<QM>", "<CM>", "<br>", "< BR>"}) {
     const Text result = QUVARDHTMLProcessor(Text(token.begin(), token.end()));
     char code[8];
     std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(result[0]));
-    rows.push_back({"`" + token + "`", result.size() == 1 ? code : "no token, stays"});
+    rows.push_back({"`" + token + "`", result.size() == 1 ? code : "unchanged"});
   }
   expectTable("phrases.md", rows);
 }

@@ -16,9 +16,9 @@ cd -- "$scratch"
 block() { awk -v "language=$1" -f "$root/Tests/docs/blocks.awk" "$root/README.md" | sed -n "s/^$2"$'\t//p'; }
 
 case $language in
-  cpp) source=first.cpp commands=2 ;;
-  c) source=first.c commands=3 ;;
-  vb) source=Program.vb commands=4 ;;
+  cpp) source=first.cpp number=2 ;;
+  c) source=first.c number=3 ;;
+  vb) source=Program.vb number=4 ;;
 esac
 block "$language" 1 >"$source"
 sed -nE "s,^.*[^ ]  (//|') ,,p" "$source" >expected
@@ -29,9 +29,10 @@ mkdir -- bin
 printf '#!/bin/sh\nexec %q %s "$@"\n' "${CXX:-c++}" "${CXXFLAGS:-}" >bin/c++
 printf '#!/bin/sh\nexec %q %s "$@"\n' "${CC:-cc}" "${CFLAGS:-}" >bin/cc
 chmod +x bin/*
+# shellcheck disable=SC2016
 printf 'cmake() { case $* in "--install build/release "*) command cmake --install %q "${@:3}" ;; esac; }\n' \
   "$build" >commands
-{ block sh 1 && block sh "$commands"; } >>commands
+{ block sh 1 && block sh "$number"; } >>commands
 HOME=$scratch PATH=$scratch/bin:$PATH bash -eu commands >printed 2>log || { cat printed log; exit 1; }
 # The first commands report what they install and create.
 diff expected <(tail -n "$(wc -l <expected)" printed)
