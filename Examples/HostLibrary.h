@@ -1,4 +1,4 @@
-// The two libraries as a host loads them: by name, at run time, from the program's own folder.
+// Loads both libraries at run time, from the program's own folder.
 #ifndef EXAMPLES_HOSTLIBRARY_H
 #define EXAMPLES_HOSTLIBRARY_H
 
@@ -13,7 +13,7 @@
 #include "QUVARDCR1C.h"
 
 #ifdef __APPLE__
-inline std::string programFolder() { return "@executable_path"; }  // which dlopen knows
+inline std::string programFolder() { return "@executable_path"; }  // dlopen expands it
 #else
 inline std::string programFolder() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
@@ -30,7 +30,7 @@ class SharedLibrary {
   SharedLibrary& operator=(const SharedLibrary&) = delete;
   ~SharedLibrary() { dlclose(handle_); }
 
-  // An exported routine; it takes the type of the function pointer that it is assigned to.
+  // The address of a routine. Converts to the type of the function pointer that it is assigned to.
   class Routine {
    public:
     explicit Routine(void* address) : address_(address) {}
@@ -45,7 +45,7 @@ class SharedLibrary {
 
   Routine routine(const std::string& name) const {
     void* const address = dlsym(handle_, name.c_str());
-    if (address == nullptr) throw std::runtime_error("the library has no routine " + name);
+    if (address == nullptr) throw std::runtime_error("the library does not export " + name);
     return Routine(address);
   }
 
@@ -53,7 +53,7 @@ class SharedLibrary {
   void* handle_;
 };
 
-// The routines that the report calls, under their own names.
+// Function pointers to the routines that the report calls.
 struct HostLibrary {
   SharedLibrary strings{"QUVARDCR1C.dll"};
   SharedLibrary library{"QUVARDBS1C.dll"};

@@ -17,7 +17,7 @@ std::string format(const char* conversion, int decimals, double value) {
   return text;
 }
 
-// Without the zeros at the end that only a significant digit would fill, beyond `always` decimals.
+// Removes trailing zeros after the first `always` decimals.
 std::string withoutSpareZeros(std::string digits, std::size_t always) {
   const std::size_t point = digits.find('.');
   if (point == std::string::npos) return digits;
@@ -53,7 +53,7 @@ std::string formatNumber(double value, const std::string& pattern) {
     return withoutSpareZeros(text.substr(0, e), always) +
            printedExponent(exponent, pattern.substr(exponentAt));
   }
-  // Digits beyond those that a number has are printed only where the pattern insists.
+  // Decimals after the 15th significant digit are printed only if every decimal is "0".
   int shown = static_cast<int>(decimals);
   if (always < decimals && value != 0.0) {
     const int magnitude = static_cast<int>(std::floor(std::log10(std::abs(value))));

@@ -1,5 +1,4 @@
-// A report program: it loads the library as a host does, hands host strings across the boundary,
-// releases every result, and prints what came back.
+// Prints a report with the results of host routines and numeric routines.
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -30,17 +29,17 @@ class Report {
   }
 
  private:
-  // A host string that the report owns, whether it made it or a routine gave it.
+  // quvard::HostString calls releaseBSTR directly, and so needs the libraries linked.
   using Owned = std::unique_ptr<char16_t, void (*)(BSTR)>;
   Owned own(BSTR handle) const { return {handle, host_.releaseBSTR}; }
   Owned text(const std::string& utf8) const {
     return own(host_.SysAllocString16(quvard::utf16FromUtf8(utf8).c_str()));
   }
 
-  // The text of a result, which is released.
+  // Returns the text of a host string, and releases it.
   std::string take(BSTR result) const { return quvard::utf8FromUtf16(own(result).get()); }
 
-  // Calls a host routine with texts and scalars, and takes its result.
+  // Calls a host routine and returns the text of its result.
   template <typename Routine, typename... Arguments>
   std::string call(Routine routine, const Arguments&... arguments) const {
     return take(routine(argument(arguments)...));
@@ -58,7 +57,7 @@ class Report {
     std::printf("\n%s\n%s\n\n", title.c_str(), std::string(title.size(), '=').c_str());
   }
 
-  // `text` and blanks up to a width in code points.
+  // Appends blanks up to a width in code points.
   static std::string pad(const std::string& text, std::size_t width) {
     std::size_t length = 0;
     for (const char unit : text) length += (unit & 0xC0) != 0x80 ? 1 : 0;
@@ -177,7 +176,7 @@ class Report {
     }
   }
 
-  // A number by the pattern that shows its decimals.
+  // Prints a number with all its decimals.
   std::string number(double value) const {
     return formatNumber(value, call(host_.VB_OutputFormat, value));
   }

@@ -1,7 +1,7 @@
-# The compile options of every target of this project are here and nowhere else.
+# The compile options of all targets.
 
-# These change bits that the numerics promise, and clang has no macro by which numerics/StrictDoubles.h
-# could refuse them all. A later -fno-fast-math does not help: -Ofast still links start-up code that
+# These options change bits of numeric results. numerics/StrictDoubles.h cannot refuse all of them, because clang
+# does not define a macro for each. Appending -fno-fast-math is no remedy: -Ofast still links start-up code that
 # flushes subnormals in the whole process.
 string(TOUPPER "${CMAKE_BUILD_TYPE}" type)
 get_directory_property(directoryOptions COMPILE_OPTIONS)
@@ -14,17 +14,16 @@ add_library(QUVARDCompileOptions INTERFACE)
 target_compile_features(QUVARDCompileOptions INTERFACE cxx_std_20)
 target_compile_options(QUVARDCompileOptions INTERFACE
   -fvisibility=hidden
-  # The numerics promise every bit of their results. A fused multiply-add rounds once where a product
-  # and a sum round twice. And where pow has 10 for its base, clang for macOS calls __exp10 instead,
-  # which rounds differently, unless it is told that pow is a function like any other.
+  # Both change bits of numeric results. A fused multiply-add rounds once instead of twice. For pow(10, x),
+  # clang for macOS calls __exp10, which rounds differently.
   -ffp-contract=off
   -fno-builtin-pow
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wmissing-declarations
   $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 
-# Hardening of the libraries. Not every processor has each flag, and clang for macOS warns that it ignores
-# -fstack-clash-protection. A definition of _FORTIFY_SOURCE by the distribution's compiler or by the user
-# stays; it needs optimisation, so debug builds, and with them the sanitizers, are without it.
+# Hardening of the libraries. Some processors lack some flags, and clang for macOS warns that it ignores
+# -fstack-clash-protection. _FORTIFY_SOURCE is not redefined if the compiler or the user defines it. It needs
+# optimisation, so debug and sanitizer builds do not define it.
 include(CheckCXXCompilerFlag)
 include(CheckCXXSymbolExists)
 set(hardening -fstack-protector-strong)
@@ -45,8 +44,8 @@ if(NOT QUVARD_FORTIFIED)
   list(APPEND hardening $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
 endif()
 
-# The C++ standard library, on which the names of C++ linkage and the type std::wstring depend. A header
-# tells the library's users.
+# Encoded names and std::wstring depend on the C++ standard library. A generated header checks that users have
+# the same one.
 check_cxx_symbol_exists(_LIBCPP_VERSION "string" QUVARDBS1C_ON_LIBCPP)
 set(standardLibrary libstdc++)
 set(otherLibrary libc++)
@@ -58,12 +57,11 @@ if(QUVARDBS1C_ON_LIBCPP)
 endif()
 configure_file(Sources/Shared/QUVARDCR1C/QUVARDStandardLibrary.h.in include/QUVARDStandardLibrary.h @ONLY)
 
-# A shared library NAME.dll that exports the names in its lists and nothing else.
+# Makes NAME a shared library NAME.dll that exports only the symbols in the files.
 #
-#   quvard_shared_library(NAME EXPORTS list...)
+#   quvard_shared_library(NAME EXPORTS file...)
 #
-# A list has one symbol a line, as the platform's compiler spells it without the leading underscore
-# of macOS.
+# A file has one symbol per line, without the leading underscore of macOS.
 function(quvard_shared_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXPORTS")
   set(symbols "")
@@ -91,8 +89,8 @@ function(quvard_shared_library name)
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
     list(JOIN symbols ";\n    " content)
     set(content "{\n  global:\n    ${content};\n  local:\n    *;\n};\n")
-    # A host may have functions named Min or StrLeft of its own: calls inside the library bind to
-    # the library, as they do on macOS anyway.
+    # Calls inside the library bind to the library even if the host has functions named Min or StrLeft. On macOS
+    # this is the default.
     target_compile_options(${name} PRIVATE -fno-semantic-interposition)
     target_link_options(${name} PRIVATE
       "LINKER:--version-script,${script}" "LINKER:-Bsymbolic-functions"
@@ -102,7 +100,7 @@ function(quvard_shared_library name)
   set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()
 
-# Lets a library or a program find the libraries in its own folder.
+# Makes a library or a program search its own folder for the libraries.
 function(quvard_find_libraries_beside target)
   set_target_properties(${target} PROPERTIES
     BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$<IF:$<PLATFORM_ID:Darwin>,@loader_path,$ORIGIN>")

@@ -1,4 +1,4 @@
-# What `cmake --install` puts where, and the packages that CPack makes of it.
+# Installation and packages.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS QUVARDCR1C QUVARDBS1C EXPORT QUVARDBS1CTargets
@@ -12,7 +12,7 @@ install(FILES
 install(FILES Hosts/VisualBasic/QUVARDBS1C.vb Hosts/VisualBasic/QUVARDBS1C.bas
   DESTINATION "${CMAKE_INSTALL_DATADIR}/QUVARDBS1C")
 
-# Links between the pages lead to the same places as in the sources.
+# The layout of the sources, so that links between the pages work.
 set(docDir "${CMAKE_INSTALL_DATAROOTDIR}/doc/quvardbs1c")
 install(FILES README.md CHANGELOG.md SECURITY.md DESTINATION "${docDir}")
 install(FILES COPYRIGHT DESTINATION "${docDir}" RENAME copyright)
@@ -22,16 +22,15 @@ install(DIRECTORY docs Examples DESTINATION "${docDir}"
 set(packageDir "${CMAKE_INSTALL_LIBDIR}/cmake/QUVARDBS1C")
 install(EXPORT QUVARDBS1CTargets NAMESPACE QUVARDBS1C:: FILE QUVARDBS1CConfig.cmake
   DESTINATION "${packageDir}")
-# Every later version takes the place of an earlier one (README.md, "Versions").
+# Every later version can replace an earlier one (README.md, "Versions").
 write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/QUVARDBS1CConfigVersion.cmake"
   COMPATIBILITY AnyNewerVersion)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/QUVARDBS1CConfigVersion.cmake"
   DESTINATION "${packageDir}")
 
-# What depends on the folder of the installation is made when that is known.
-# pkg-config quotes blanks in the words of an option with one dash or two, but not after -Wl, and not
-# in a path alone. The linker is told the folder once more, since CMake reads these flags and then
-# drops -L.
+# InstallPaths.cmake, at installation, writes what depends on the folder.
+# pkg-config quotes blanks in options, but neither after -Wl nor in a plain path. --library-path repeats -L,
+# because CMake drops -L when it reads these flags.
 set(linkFlags "-L\${libdir} -l:QUVARDBS1C.dll -l:QUVARDCR1C.dll --for-linker=-rpath=\${libdir} --for-linker=--library-path=\${libdir}")
 if(APPLE)
   set(linkFlags "\${libdir}/QUVARDBS1C.dll \${libdir}/QUVARDCR1C.dll -Wl,-rpath,\${libdir}")
@@ -39,13 +38,13 @@ endif()
 configure_file(cmake/InstallPaths.cmake.in InstallPaths.cmake @ONLY)
 install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/InstallPaths.cmake")
 
-# A parent project makes packages of its own.
+# A parent project has its own packages.
 if(PROJECT_IS_TOP_LEVEL)
   add_custom_target(uninstall
     COMMAND "${CMAKE_COMMAND}" "-DMANIFEST=${CMAKE_BINARY_DIR}/install_manifest.txt"
       -P "${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake" VERBATIM)
 
-  # The section of this version, in Debian's form; in packages alone.
+  # The changes of this version in Debian's format, for packages only.
   file(READ CHANGELOG.md changes)
   string(REGEX REPLACE "^.*\n## ${PROJECT_VERSION}\n" "\n" changes "${changes}")
   string(FIND "${changes}" "\n## " end)
@@ -64,8 +63,8 @@ if(PROJECT_IS_TOP_LEVEL)
   set(CPACK_GENERATOR TGZ DEB)
   set(CPACK_INSTALL_CMAKE_PROJECTS
     "${CMAKE_BINARY_DIR};${PROJECT_NAME};ALL;/;${CMAKE_BINARY_DIR};${PROJECT_NAME};packages;/")
-  # Folders are made with the umask of the build, and then get these modes. (Files have modes of their own;
-  # CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS does not undo a umask of 077.)
+  # CPack creates folders with the current umask, and CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS does not undo a
+  # umask of 077.
   set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_BINARY_DIR}/PackageModes.cmake")
   file(WRITE "${CPACK_PRE_BUILD_SCRIPTS}" [[
 file(CHMOD_RECURSE "${CPACK_TEMPORARY_INSTALL_DIRECTORY}" DIRECTORY_PERMISSIONS
@@ -75,10 +74,9 @@ file(CHMOD_RECURSE "${CPACK_TEMPORARY_INSTALL_DIRECTORY}" DIRECTORY_PERMISSIONS
   set(CPACK_PACKAGE_VENDOR "The QUVARDBS1C developers")
   set(CPACK_PACKAGE_CONTACT "${maintainer}")
   set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "base library of a statistical analysis product")
-  set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Routines without state, for macro code by host strings and for C and C++:
-text, report phrases in ten languages, patterns for numbers and scalar
-numerics. Headers, package files for CMake and pkg-config, declarations for
-Visual Basic and the documentation are in the package.")
+  set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Stateless routines for macro code, C and C++: text, report phrases in ten
+languages, number patterns and numerics. The package contains headers, files
+for CMake and pkg-config, declarations for Visual Basic and documentation.")
   set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
   set(CPACK_PACKAGE_FILE_NAME
     "quvardbs1c-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}")

@@ -1,4 +1,4 @@
-/* A C program that makes a host string, calls host and numeric routines, and releases the result. */
+/* A C program that calls host and numeric routines. */
 #include <QUVARDBS1C.h>
 #include <QUVARDCR1C.h>
 #include <stdio.h>

@@ -1,4 +1,4 @@
-# Each way of installing and using the library, as a user goes it (see consumers.sh).
+# Ways to install and use the library: see consumers.sh.
 set(ways
   add_subdirectory
   fetch_content
@@ -21,7 +21,7 @@ foreach(way IN LISTS ways)
   string(REPLACE " " "." name "Consumer.${way}")
   add_test(NAME "${name}"
     COMMAND bash "${CMAKE_CURRENT_SOURCE_DIR}/consumer/consumers.sh" ${arguments})
-  # One at a time: they share a build tree.
+  # Not in parallel, because they share a build tree.
   set_tests_properties("${name}" PROPERTIES
     LABELS consumer TIMEOUT 600 RESOURCE_LOCK consumers SKIP_RETURN_CODE 77 ENVIRONMENT
     "STANDARD_LIBRARY=${standardLibrary};OTHER_LIBRARY=${otherLibrary};SOURCES=${PROJECT_SOURCE_DIR};BUILT=${PROJECT_BINARY_DIR};WORK=${CMAKE_CURRENT_BINARY_DIR}/consumer;CC=${CMAKE_C_COMPILER};CXX=${CMAKE_CXX_COMPILER};CFLAGS=${CMAKE_C_FLAGS};CXXFLAGS=${CMAKE_CXX_FLAGS}")

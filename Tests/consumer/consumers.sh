@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Goes one way of installing and using the library as a user goes it, and runs what was built:
+# Installs and uses the library in one way, and runs the program:
 #
 #   consumers.sh WAY [ARGUMENT]
 #
-# Nothing here adds a run path, a library path or a copied file: what a program needs must come from
-# the package files or from a line that the README gives.
+# Adds no run path, no library path and no copy: what a program needs comes from the installed files or from a line
+# in docs/building.md.
 #
-# From the environment: SOURCES and BUILT, the project's source and build folders; WORK, a folder
-# for build trees that stay; CC, CXX, CFLAGS and CXXFLAGS, which CMake reads by itself; STANDARD_LIBRARY,
-# the C++ standard library that the build has, and OTHER_LIBRARY.
+# Environment: SOURCES and BUILT, the source and build folders of the project; WORK, a folder for build trees that
+# are reused; CC, CXX, CFLAGS and CXXFLAGS, which CMake reads too; STANDARD_LIBRARY, the C++ standard library of
+# the build, and OTHER_LIBRARY.
 set -euo pipefail
 
 consumer=$SOURCES/Tests/consumer
@@ -21,14 +21,14 @@ fail() {
   exit 1
 }
 
-# Runs a command, and shows its output only if it fails.
+# Runs a command. Prints its output only if it fails.
 quietly() {
   local output status=0
   output=$("$@" 2>&1) || status=$?
   [ "$status" -eq 0 ] || fail "$output" "Failed with status $status: $*"
 }
 
-# Runs a program, which is to print "right".
+# Expects the program to print "right".
 expect_right() {
   local output
   output=$("$@" 2>&1) || true
@@ -48,8 +48,7 @@ configure() {
     -D CONSUMER_SOURCES="$SOURCES" "${@:4}"
 }
 
-# The parent project that takes the sources in, with strict flags of its own. Its tree stays, and
-# its libraries serve all ways that need another configuration.
+# A parent project that adds the sources, with strict compiler flags. Its build tree is reused.
 parent=$WORK/parent
 configure_parent() {
   local strict="-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Werror"
@@ -59,7 +58,7 @@ configure_parent() {
   quietly cmake --build "$parent"
 }
 
-# use_parent WAY [ARGUMENTS OF CMAKE]...: builds with them, and runs the programs there and installed.
+# use_parent WAY [ARGUMENTS OF CMAKE]...: builds the programs, and runs them in the build tree and installed.
 use_parent() {
   configure_parent "$@"
   expect_right "$parent/consumer-cxx"
@@ -80,12 +79,12 @@ add_subdirectory() {
 
 fetch_content() { use_parent fetch_content; }
 
-# A parent that installs the two libraries by itself.
+# A parent project that installs the two libraries itself.
 without_install_rules() {
   local rest
   use_parent add_subdirectory -D QUVARDBS1C_INSTALL=OFF
   rest=$(cd -- "$prefix" && find . -name '*QUVARD*' ! -name '*.dll')
-  [ -z "$rest" ] || fail "QUVARDBS1C_INSTALL=OFF, and yet there is:" "$rest"
+  [ -z "$rest" ] || fail "Installed in spite of QUVARDBS1C_INSTALL=OFF:" "$rest"
 }
 
 find_package() { use_package find_package "$1"; }
@@ -109,18 +108,18 @@ use_package() {
   done
 }
 
-# Compiles the C++ and the C program with what pkg-config says, and runs them.
+# Compiles the C++ and the C program with the flags of pkg-config, and runs them.
 compile_by_pkg_config() {
   local flags cxx=$scratch/cxx c=$scratch/c
   flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs QUVARDBS1C)
-  # pkg-config quotes what a shell would take apart, for eval or for make.
+  # pkg-config quotes blanks for a shell, so the flags need eval.
   eval "quietly \"\$CXX\" ${CXXFLAGS:-} -o \"\$cxx\" \"\$consumer/consumer.cpp\" $flags"
   eval "quietly \"\$CC\" ${CFLAGS:-} -std=c11 -o \"\$c\" \"\$consumer/consumer.c\" $flags"
   expect_right "$cxx"
   expect_right "$c"
 }
 
-# pkg_config LIBDIR, where LIBDIR is as CMAKE_INSTALL_LIBDIR; "absolute" is an absolute folder.
+# pkg_config LIBDIR: LIBDIR is the value of CMAKE_INSTALL_LIBDIR; "absolute" stands for an absolute path.
 pkg_config() {
   local libdir=$1
   [ "$libdir" != absolute ] || libdir=$scratch/libraries
@@ -147,7 +146,7 @@ pkg_config_blanks() {
 # The folder of the libraries below a prefix.
 libdir_of() { dirname -- "$(find "$1" -name QUVARDBS1C.dll)"; }
 
-# A host that loads the library at run time: from the build tree, installed, by a link.
+# A program loads the library at run time: from the build tree, from the installation, and by a link.
 load() {
   local host=$scratch/loader libdir
   # shellcheck disable=SC2086
@@ -162,7 +161,7 @@ load() {
   done
 }
 
-# Removes what was installed, leaves the files of others, and says when there is nothing to remove.
+# Uninstalling leaves files of others. A second run fails with a message.
 uninstall() {
   local before after
   prefix="$scratch/in stalled ü"
@@ -183,22 +182,21 @@ static() {
   use_parent add_subdirectory -D BUILD_SHARED_LIBS=OFF
 }
 
-# build WAY OPTIONS: the C++ program, compiled and linked with options of its own.
+# build WAY OPTIONS: builds the C++ program with these compiler and linker options.
 build() {
   configure "$scratch/$1" "$1" CXX -D CONSUMER_OPTIONS="$2" -D CMAKE_PREFIX_PATH="$prefix" \
     -D CMAKE_UNITY_BUILD=ON
   quietly cmake --build "$scratch/$1"
 }
 
-# A program with another C++ standard library than the libraries' is refused. Without the wide routines
-# it runs.
+# A program with another C++ standard library does not compile. It runs without the wide routines.
 other_library() {
   local message="built with $STANDARD_LIBRARY and this program uses $OTHER_LIBRARY"
   local way other="-stdlib=$OTHER_LIBRARY" no_wide=-DQUVARDBS1C_NO_WIDE_ROUTINES flags=${CXXFLAGS:-}
   export CXX=clang++
   # shellcheck disable=SC2086
   echo 'int main() {}' | "$CXX" $flags "$other" -include string -o "$scratch/empty" -x c++ - || {
-    echo "not tried: $CXX has no $OTHER_LIBRARY"
+    echo "Skipped: $CXX has no $OTHER_LIBRARY."
     exit 77
   }
   quietly cmake --install "$BUILT" --prefix "$prefix"

@@ -1,4 +1,4 @@
-/* A host that links nothing: it loads the library that it is given at run time, and calls it. */
+/* Loads a library at run time and calls it. */
 #include <dlfcn.h>
 #include <stdio.h>
 #include <string.h>

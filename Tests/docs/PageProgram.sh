@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Runs the program of a page as its reader does, in a new folder, and compares what it prints with the
+# Runs a program of docs/other-languages.md or docs/from-a-macro.md in a new folder, and compares its output with the
 # comments at the ends of its lines.
 #
-#   PageProgram.sh python|gambas FOLDER BUILD          with the libraries that a build tree installs
+#   PageProgram.sh python|gambas FOLDER BUILD          with the libraries installed from a build tree
 #   PageProgram.sh csharp|fsharp|vb FOLDER PACKAGES    with the NuGet package in the folder PACKAGES
 set -euo pipefail
 root=$(CDPATH='' cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -10,7 +10,7 @@ language=$1 folder=$2 origin=$3
 page=$root/docs/other-languages.md
 [ "$language" != vb ] || page=$root/docs/from-a-macro.md
 
-# The code block number $2 of language $1.
+# block LANGUAGE NUMBER
 block() { awk -v "language=$1" -f "$root/Tests/docs/blocks.awk" "$page" | sed -n "s/^$2"$'\t//p'; }
 
 rm -rf -- "$folder"
@@ -19,7 +19,7 @@ cd -- "$folder"
 case $language in
   python | gambas)
     cmake --install "$origin" --prefix "$folder/installed" >install.log
-    # Moved: a library that is missing here is nowhere else.
+    # Moved, so that the program cannot find another copy.
     find installed -name '*.dll' -exec mv {} . ';'
     program=first_call
     ;;

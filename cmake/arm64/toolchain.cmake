@@ -1,4 +1,4 @@
-# Builds for Linux on 64-bit Arm by Debian's cross compiler, and runs what it builds by QEMU.
+# Builds for Linux on 64-bit Arm with Debian's cross compiler. QEMU runs the programs.
 
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
@@ -6,7 +6,7 @@ set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L /usr/aarch64-linux-gnu)
 
-# Headers and libraries of this machine are for another processor.
+# Do not find headers and libraries for this machine's processor.
 set(CMAKE_FIND_ROOT_PATH /usr/aarch64-linux-gnu)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

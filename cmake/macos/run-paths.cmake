@@ -1,2 +1,2 @@
-# CMake asks the system that it runs on whether files for macOS can have run paths. They can.
+# Files for macOS can have run paths. When cross-compiling, CMake does not know this.
 set(CMAKE_SHARED_LIBRARY_RUNTIME_C_FLAG "-Wl,-rpath,")
