@@ -89,8 +89,8 @@ class HostString {
   /// Deleted: call adopt() to own a handle, or pass a view to copy its text.
   template <typename Handle, detail::IfHandle<Handle> = 0>
   HostString(Handle) = delete;
-  HostString(HostString&& other) noexcept
-      : handle_(other.detach()) {}  ///< Leaves null in @p other.
+  /// Takes the host string of @p other and leaves null there.
+  HostString(HostString&& other) noexcept : handle_(other.detach()) {}
   /// Releases the host string of this object, then takes that of @p other, which may be this object.
   HostString& operator=(HostString&& other) noexcept {
     releaseBSTR(std::exchange(handle_, other.detach()));
@@ -108,7 +108,7 @@ class HostString {
   [[nodiscard]] BSTR detach() noexcept { return std::exchange(handle_, nullptr); }
   /// Returns the handle, which this object still owns, as an argument of a routine.
   BSTR handle() const noexcept { return handle_; }
-  /// Returns the text, empty for the null handle. The view is valid while this object owns the host string.
+  /// Returns the text, empty for the null handle. Valid while this object owns the host string.
   std::u16string_view view() const noexcept {
     return handle_ == nullptr ? std::u16string_view() : std::u16string_view(handle_);
   }
@@ -152,12 +152,18 @@ bool isHandle(const Argument&, BSTR) {
 }  // namespace detail
 /// @endcond
 
-/// Calls a routine that returns a host string. The result is a copy if the routine returns the handle of
-/// an argument, as VB_Replace() may.
+/// Calls a routine that returns a host string.
 ///
-/// A text argument, in UTF-16 or UTF-8, becomes a host string, which is released after the call. Also accepts
-/// HostString, `BSTR` and `nullptr` for a host string, and `bool` for a `HostBool`.
+/// | Argument | Passed as |
+/// | --- | --- |
+/// | text in UTF-16 or UTF-8 | a host string up to the first zero code unit, released after the call |
+/// | HostString, `BSTR`, `nullptr` | its handle |
+/// | `bool` for a `HostBool` | -1 or 0 |
 ///
+/// @param routine    host routine
+/// @param arguments  one argument for each parameter of @p routine. VB_Replace() may modify a HostString
+/// @return           owner of the result; of a copy if the result is the handle of an argument, as
+///                   VB_Replace() returns it for a null pattern
 /// @throws std::bad_alloc
 /// @b Example: `quvard::call(VB_Replace, "a,b,c", ",", ", ").utf8() == "a, b, c"`
 template <typename... Parameters, typename... Arguments>
@@ -169,7 +175,7 @@ HostString call(BSTR (*routine)(Parameters...), Arguments&&... arguments) {
   }(detail::convert<Parameters>(std::forward<Arguments>(arguments))...);
 }
 
-/// Calls a routine that returns an integer or a `HostBool`, with the same arguments.
+/// Calls a routine that returns an integer or a `HostBool`; for arguments see the overload above.
 template <typename... Parameters, typename... Arguments>
 int32_t call(int32_t (*routine)(Parameters...), Arguments&&... arguments) {
   return routine(detail::convert<Parameters>(std::forward<Arguments>(arguments))...);
