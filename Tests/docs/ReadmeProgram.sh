@@ -30,7 +30,7 @@ printf '#!/bin/sh\nexec %q %s "$@"\n' "${CXX:-c++}" "${CXXFLAGS:-}" >bin/c++
 printf '#!/bin/sh\nexec %q %s "$@"\n' "${CC:-cc}" "${CFLAGS:-}" >bin/cc
 chmod +x bin/*
 # shellcheck disable=SC2016
-printf 'cmake() { case $* in "--install build/release "*) command cmake --install %q "${@:3}" ;; esac; }\n' \
+printf 'cmake() { case $* in "--install build/demo "*) command cmake --install %q "${@:3}" ;; esac; }\n' \
   "$build" >commands
 { block sh 1 && block sh "$number"; } >>commands
 HOME=$scratch PATH=$scratch/bin:$PATH bash -eu commands >printed 2>log || { cat printed log; exit 1; }
