@@ -56,7 +56,7 @@ inline std::u16string utf16FromUtf8(std::string_view utf8) {
 inline std::string utf8FromUtf16(std::u16string_view utf16) {
   std::string utf8;
   for (std::size_t i = 0; i < utf16.size(); ++i) {
-    char32_t point = utf16[i];
+    auto point = static_cast<char32_t>(utf16[i]);
     if (point >> 11 == 0x1B) {  // a surrogate
       const bool isPair = point < 0xDC00 && i + 1 < utf16.size() && utf16[i + 1] >> 10 == 0x37;
       point = isPair ? 0x10000 + ((point & 0x3FF) << 10) + (utf16[++i] & 0x3FFu) : 0xFFFD;
