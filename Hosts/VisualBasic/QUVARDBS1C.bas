@@ -1,20 +1,22 @@
 Attribute VB_Name = "QUVARDBS1C"
 Option Explicit
 
-' The base library for Visual Basic for Applications of 64 bits on macOS. Generated from QUVARDBS1C.h
-' by generate.py: do not edit. Import this file into the project, and replace Lib "QUVARD by
-' Lib "/the/folder/of/both/libraries/QUVARD everywhere in it. The page docs/from-a-macro.md explains
+' Declares the library QUVARDBS1C for 64-bit Visual Basic for Applications on macOS. Generated from
+' QUVARDBS1C.h by generate.py; do not edit. Import this file into the project, and replace Lib "QUVARD
+' by Lib "/the/folder/of/both/libraries/QUVARD everywhere in it. The page docs/from-a-macro.md explains
 ' how, and how this file is tested.
 '
-' Texts are Strings on both sides, and no caller releases anything. vbNullString is the null handle:
-' as an argument it is the empty text unless a comment says otherwise. Texts end at their first
-' ChrW(0). Lengths and positions count UTF-16 code units, as Len and Mid do, and positions start at 1.
+' - Arguments and results are Strings; the caller releases nothing.
+' - vbNullString is the null handle. As an argument it means the empty text, unless a comment says
+'   otherwise.
+' - A text ends at its first ChrW(0).
+' - Lengths and positions are in UTF-16 code units, as for Len and Mid. Positions start at 1.
 
-' What a call of VB_Replace did to the text that the library was given.
+' What VB_Replace did with the copy of text that it passed to the library.
 Public Enum ReplaceResult
-    NewString    ' a new text results, and the text given is unchanged
-    TextChanged  ' a new text results, and the text given was changed as well
-    TextItself   ' the text given results, because text or pattern is vbNullString
+    NewString    ' The result is a new text; the copy is unchanged.
+    TextChanged  ' The result is a new text; the copy was modified too.
+    TextItself   ' The result is the copy itself, because text or pattern is vbNullString.
 End Enum
 
 Private Declare PtrSafe Function Dll_VB_StrLeft Lib "QUVARDBS1C.dll" Alias "VB_StrLeft" ( _
@@ -79,62 +81,61 @@ Private Declare PtrSafe Function Dll_VB_OutputFormat Lib "QUVARDBS1C.dll" _
 Private Declare PtrSafe Function Dll_VB_OptimalFormat Lib "QUVARDBS1C.dll" _
     Alias "VB_OptimalFormat" (ByVal value As Double, ByVal decimals As Long, _
     ByVal useExponent As Long, ByVal keepDecimals As Long) As LongPtr
-' The constant 3.14159265358979, which is 7 units in the last place below the double closest to pi.
+' Returns 3.14159265358979, which approximates pi.
 Public Declare PtrSafe Function Pi Lib "QUVARDBS1C.dll" () As Double
-' The square root (not the square) of x, correctly rounded.
+' Returns the square root (not the square) of x, correctly rounded.
 Public Declare PtrSafe Function SqrDbl Lib "QUVARDBS1C.dll" Alias "sqr" ( _
     ByVal x As Double) As Double
-' The decimal logarithm of x, as the platform's log10 gives it.
+' Returns the decimal logarithm of x, computed by the platform's log10.
 Public Declare PtrSafe Function Log10 Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-' base to the power of exponent, as the platform's pow gives it.
+' Returns base to the power of exponent, computed by the platform's pow.
 Public Declare PtrSafe Function spow Lib "QUVARDBS1C.dll" (ByVal base As Double, _
     ByVal exponent As Double) As Double
-' exp(x) - 1.
+' Returns exp(x) - 1.
 Public Declare PtrSafe Function expm1x Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-' The arcsine of x in radians, as atan(x / SqrDbl((1 - x) * (x + 1))).
+' Returns the arcsine of x in radians.
 Public Declare PtrSafe Function ASin Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-' a if it is below b, otherwise b: of equal arguments, or with a NaN, b.
+' Returns a if a < b, otherwise b.
 Public Declare PtrSafe Function Min Lib "QUVARDBS1C.dll" (ByVal a As Double, _
     ByVal b As Double) As Double
-' a if it is above b, otherwise b: of equal arguments, or with a NaN, b.
+' Returns a if a > b, otherwise b.
 Public Declare PtrSafe Function Max Lib "QUVARDBS1C.dll" (ByVal a As Double, _
     ByVal b As Double) As Double
-' The sign of x as a number: 1, -1, or 0.0 for both zeros.
+' Returns the sign of x as a number.
 Public Declare PtrSafe Function FSgn Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-' The magnitude of a with the sign of b, where -0.0 and NaN count as not negative.
+' Returns the magnitude of a with the sign of b.
 Public Declare PtrSafe Function FSign Lib "QUVARDBS1C.dll" (ByVal a As Double, _
     ByVal b As Double) As Double
-' ln(exp(a) + exp(b)), also where the exponentials leave the range of doubles.
+' Returns ln(exp(a) + exp(b)), also if the exponentials overflow or underflow.
 Public Declare PtrSafe Function LogExpAPlusExpB Lib "QUVARDBS1C.dll" (ByVal a As Double, _
     ByVal b As Double) As Double
-' Exchanges two integers.
+' Swaps two integers.
 Public Declare PtrSafe Sub SwapLng Lib "QUVARDBS1C.dll" (ByRef a As Long, ByRef b As Long)
-' Exchanges two doubles, bits as they are.
+' Swaps two doubles without changing their bits.
 Public Declare PtrSafe Sub SwapDbl Lib "QUVARDBS1C.dll" (ByRef a As Double, ByRef b As Double)
-' The natural logarithm of the gamma function.
+' Returns the natural logarithm of the gamma function.
 Public Declare PtrSafe Function GammaLn Lib "QUVARDBS1C.dll" (ByVal x As Double) As Double
-' n factorial, in one table look-up.
+' Returns the factorial of n.
 Public Declare PtrSafe Function Fact Lib "QUVARDBS1C.dll" (ByVal n As Long) As Double
-' The number of ways to choose k of n.
+' Returns the binomial coefficient: the number of ways to choose k of n.
 Public Declare PtrSafe Function Cnk Lib "QUVARDBS1C.dll" (ByVal n As Double, _
     ByVal k As Double) As Double
-' The sum of Cnk(n, k) for the whole numbers k from from to to, added upward.
+' Returns the sum of Cnk(n, k) for all integers k with from <= k <= to.
 Public Declare PtrSafe Function SumCnk Lib "QUVARDBS1C.dll" (ByVal n As Double, _
     ByVal from As Double, ByVal to_ As Double) As Double
-' The floored remainder of a by b, which has the sign of b.
+' Returns the floored remainder of a by b, which has the sign of b.
 Public Declare PtrSafe Function ModLng Lib "QUVARDBS1C.dll" Alias "Mod" (ByVal a As Long, _
     ByVal b As Long) As Long
-' The floored remainder a - floor(a / b) * b, which the rounded quotient decides: it may miss the
-' range from 0 to b by up to two units in the last place of a.
+' Returns the floored remainder a - floor(a / b) * b of doubles.
 Public Declare PtrSafe Function ModDbl Lib "QUVARDBS1C.dll" (ByVal a As Double, _
     ByVal b As Double) As Double
-' The largest common divisor.
+' Returns the greatest common divisor (GCD) of two integers.
 Public Declare PtrSafe Function LCD Lib "QUVARDBS1C.dll" (ByVal a As Long, _
     ByVal b As Long) As Long
-' The largest common divisor of two whole numbers held in doubles.
+' Returns the greatest common divisor (GCD) of two integers held in doubles.
 Public Declare PtrSafe Function LCD2 Lib "QUVARDBS1C.dll" Alias "_Z4LCD2dd" (ByVal a As Double, _
     ByVal b As Double) As Double
-' The largest common divisor of two decimal numbers, for instance 0.25 of 0.5 and 0.75.
+' Returns the greatest common divisor (GCD) of two decimal numbers, such as 0.25 for 0.5 and 0.75.
 Public Declare PtrSafe Function LCDDbl Lib "QUVARDBS1C.dll" (ByVal a As Double, _
     ByVal b As Double) As Double
 Private Declare PtrSafe Function Dll_IsLong Lib "QUVARDBS1C.dll" Alias "IsLong" ( _
@@ -163,7 +164,7 @@ Private Declare PtrSafe Function Dll_VB_Replace Lib "QUVARDBS1C.dll" Alias "VB_R
 Private Declare PtrSafe Sub Dll_VB_SetFormat Lib "QUVARDBS1C.dll" Alias "VB_SetFormat" ( _
     ByRef formats As LongPtr, ByVal count As Long, ByVal digits As Long, _
     ByVal digitsOverride As Long)
-' Swaps two host strings, which HostString returned.
+' Swaps two handles that HostString returned.
 Public Declare PtrSafe Sub SwapStr Lib "QUVARDBS1C.dll" (ByRef a As LongPtr, ByRef b As LongPtr)
 
 Private Declare PtrSafe Function SysAllocString16 Lib "QUVARDCR1C.dll" ( _
@@ -175,90 +176,88 @@ Private Declare PtrSafe Sub releaseBSTR Lib "QUVARDCR1C.dll" (ByVal handle As Lo
 Private Declare PtrSafe Sub memmove Lib "/usr/lib/libSystem.B.dylib" ( _
     ByVal target As LongPtr, ByVal source As LongPtr, ByVal size As LongPtr)
 
-' The first n units of s.
+' Returns the first n code units of s.
 Public Function VB_StrLeft(ByVal s As String, ByVal n As Long) As String
     VB_StrLeft = TakeText(Dll_VB_StrLeft(StrPtr(s), n))
 End Function
 
-' The last n units of s.
+' Returns the last n code units of s.
 Public Function VB_StrRight(ByVal s As String, ByVal n As Long) As String
     VB_StrRight = TakeText(Dll_VB_StrRight(StrPtr(s), n))
 End Function
 
-' The six strings joined in argument order, with nothing between them.
+' Concatenates six texts.
 Public Function VB_StrConcat(ByVal a As String, ByVal b As String, ByVal c As String, _
     ByVal d As String, ByVal e As String, ByVal f As String) As String
     VB_StrConcat = TakeText(Dll_VB_StrConcat(StrPtr(a), StrPtr(b), StrPtr(c), StrPtr(d), _
         StrPtr(e), StrPtr(f)))
 End Function
 
-' s without its leading blanks.
+' Removes leading blanks.
 Public Function VB_StrLTrim(ByVal s As String) As String
     VB_StrLTrim = TakeText(Dll_VB_StrLTrim(StrPtr(s)))
 End Function
 
-' s without its trailing blanks.
+' Removes trailing blanks.
 Public Function VB_StrRTrim(ByVal s As String) As String
     VB_StrRTrim = TakeText(Dll_VB_StrRTrim(StrPtr(s)))
 End Function
 
-' s without blanks at either end.
+' Removes leading and trailing blanks.
 Public Function VB_StrLRTrim(ByVal s As String) As String
     VB_StrLRTrim = TakeText(Dll_VB_StrLRTrim(StrPtr(s)))
 End Function
 
-' s after a removal that goes on until the whole of chars occurs nowhere: each step takes the first
-' unit out of the leftmost occurrence.
+' Removes the first code unit of the leftmost occurrence of chars until chars does not occur.
 Public Function VB_RemoveChar(ByVal s As String, ByVal chars As String) As String
     VB_RemoveChar = TakeText(Dll_VB_RemoveChar(StrPtr(s), StrPtr(chars)))
 End Function
 
-' The digits 0 to 9 of s, in their order.
+' Removes every code unit except the digits 0 to 9.
 Public Function VB_RemoveNonNumericChar(ByVal s As String) As String
     VB_RemoveNonNumericChar = TakeText(Dll_VB_RemoveNonNumericChar(StrPtr(s)))
 End Function
 
-' s without any colon.
+' Removes every colon.
 Public Function VB_RemoveColon(ByVal s As String) As String
     VB_RemoveColon = TakeText(Dll_VB_RemoveColon(StrPtr(s)))
 End Function
 
-' Whether text and chars have a unit in common.
+' Tests whether two texts have a code unit in common.
 Public Function VB_CommonChar(ByVal text As String, ByVal chars As String) As Boolean
     VB_CommonChar = CBool(Dll_VB_CommonChar(StrPtr(text), StrPtr(chars)))
 End Function
 
-' The number of occurrences of pattern in text, from left to right and without overlap.
+' Counts the occurrences of pattern in text, from left to right and without overlap.
 Public Function ChrCount(ByVal text As String, ByVal pattern As String) As Long
     ChrCount = Dll_ChrCount(StrPtr(text), StrPtr(pattern))
 End Function
 
-' The units at positions from to to, both included.
+' Returns the code units at the positions from, ..., to.
 Public Function StrFromTo(ByVal text As String, ByVal from As Long, ByVal to_ As Long) As String
     StrFromTo = TakeText(Dll_StrFromTo(StrPtr(text), from, to_))
 End Function
 
-' The units strictly between positions from and to.
+' Returns the code units strictly between the positions from and to.
 Public Function StrBetween(ByVal text As String, ByVal from As Long, ByVal to_ As Long) As String
     StrBetween = TakeText(Dll_StrBetween(StrPtr(text), from, to_))
 End Function
 
-' The text from the first opening to the first closing, both included.
+' Returns the text from the first opening to the first closing, with both delimiters.
 Public Function StrFromChrToChr(ByVal text As String, ByVal opening As String, _
     ByVal closing As String) As String
     StrFromChrToChr = TakeText(Dll_StrFromChrToChr(StrPtr(text), StrPtr(opening), _
         StrPtr(closing)))
 End Function
 
-' What is between the first opening and the first closing after it, both left out.
+' Returns the text between the first opening and the next closing, without the delimiters.
 Public Function StrBetweenChrAndChr(ByVal text As String, ByVal opening As String, _
     ByVal closing As String) As String
     StrBetweenChrAndChr = TakeText(Dll_StrBetweenChrAndChr(StrPtr(text), StrPtr(opening), _
         StrPtr(closing)))
 End Function
 
-' text with every occurrence of pattern1 replaced, and then, in that result, every occurrence of
-' pattern2.
+' Replaces every occurrence of pattern1, then in that result every occurrence of pattern2.
 Public Function VB_Replace2(ByVal text As String, ByVal pattern1 As String, _
     ByVal replacement1 As String, ByVal pattern2 As String, _
     ByVal replacement2 As String) As String
@@ -266,13 +265,13 @@ Public Function VB_Replace2(ByVal text As String, ByVal pattern1 As String, _
         StrPtr(pattern2), StrPtr(replacement2)))
 End Function
 
-' Host form of VB_LocalAN2() with upperAdjective True, lowerResult False, noBlank False.
+' Composes an adjective and a noun in the word order of a language.
 Public Function VB_LocalAN(ByVal adjective As String, ByVal noun As String, _
     ByVal language As String) As String
     VB_LocalAN = TakeText(Dll_VB_LocalAN(StrPtr(adjective), StrPtr(noun), StrPtr(language)))
 End Function
 
-' The phrase of an adjective and a noun in the word order of a language.
+' Composes an adjective and a noun in the word order of a language.
 Public Function VB_LocalAN2(ByVal adjective As String, ByVal noun As String, _
     ByVal language As String, Optional ByVal upperAdjective As Boolean = True, _
     Optional ByVal lowerResult As Boolean = False, _
@@ -281,107 +280,104 @@ Public Function VB_LocalAN2(ByVal adjective As String, ByVal noun As String, _
         CLng(upperAdjective), CLng(lowerResult), CLng(noBlank)))
 End Function
 
-' text with its first unit lower-cased, as StrLCase() does it.
+' Converts the first letter of text to lower case, unless language is "JP" or "DE".
 Public Function VB_LowerFirst(ByVal text As String, ByVal language As String, _
     Optional ByVal forceDE As Boolean = False) As String
     VB_LowerFirst = TakeText(Dll_VB_LowerFirst(StrPtr(text), StrPtr(language), CLng(forceDE)))
 End Function
 
-' text with its first unit upper-cased under the locale of the process.
+' Converts the first letter of text to upper case under the locale of the process.
 Public Function VB_UpperFirst(ByVal text As String) As String
     VB_UpperFirst = TakeText(Dll_VB_UpperFirst(StrPtr(text)))
 End Function
 
-' A blank, text, a blank.
+' Puts a blank before and after a text.
 Public Function VB_SpStrSp(ByVal text As String) As String
     VB_SpStrSp = TakeText(Dll_VB_SpStrSp(StrPtr(text)))
 End Function
 
-' text in parentheses.
+' Puts a text in parentheses.
 Public Function VB_PStrP(ByVal text As String) As String
     VB_PStrP = TakeText(Dll_VB_PStrP(StrPtr(text)))
 End Function
 
-' text in square brackets.
+' Puts a text in square brackets.
 Public Function VB_BStrB(ByVal text As String) As String
     VB_BStrB = TakeText(Dll_VB_BStrB(StrPtr(text)))
 End Function
 
-' A copy of singular if count is less than 2, else of plural.
+' Chooses the singular or plural of a word.
 Public Function VB_SingPlural(ByVal singular As String, ByVal plural As String, _
     ByVal count As Long) As String
     VB_SingPlural = TakeText(Dll_VB_SingPlural(StrPtr(singular), StrPtr(plural), count))
 End Function
 
-' text with its markup tokens turned into the characters that they mean: <BR> into a line feed, <QM>
-' into a double quotation mark, <CM> into a comma.
+' Replaces each <BR> by a line feed, <QM> by a double quotation mark and <CM> by a comma.
 Public Function VB_QUVARDHTMLProcessor(ByVal text As String) As String
     VB_QUVARDHTMLProcessor = TakeText(Dll_VB_QUVARDHTMLProcessor(StrPtr(text)))
 End Function
 
-' The pattern with a number of decimals.
+' Returns the pattern with the given number of decimals.
 Public Function Cpp_DecimalFormat(ByVal decimals As Long) As String
     Cpp_DecimalFormat = TakeText(Dll_Cpp_DecimalFormat(decimals))
 End Function
 
-' The pattern that shows the decimals a value has, up to 19: "0" for a value within 1e-12 of a whole
-' number (infinities and NaN count as whole), otherwise "0." and 19 times "#".
+' Returns the pattern that shows the decimals of a value, up to 19.
 Public Function VB_OutputFormat(ByVal value As Double) As String
     VB_OutputFormat = TakeText(Dll_VB_OutputFormat(value))
 End Function
 
-' The pattern with a chosen number of decimals, in scientific notation where that is asked for and
-' the value is small for these decimals, or large.
+' Returns the pattern with the given number of decimals, on request in scientific notation if the
+' value is large, or small for these decimals.
 Public Function VB_OptimalFormat(ByVal value As Double, ByVal decimals As Long, _
     ByVal useExponent As Boolean, ByVal keepDecimals As Boolean) As String
     VB_OptimalFormat = TakeText(Dll_VB_OptimalFormat(value, decimals, CLng(useExponent), _
         CLng(keepDecimals)))
 End Function
 
-' Whether x is a whole number within 1e-12, of any size.
+' Tests whether x is within 1e-12 of an integer of any size.
 Public Function IsLong(ByVal x As Double) As Boolean
     IsLong = CBool(Dll_IsLong(x))
 End Function
 
-' Whether x is a whole number within tol, inclusive.
+' Tests whether x is within tol of an integer of any size.
 Public Function IsLongP(ByVal x As Double, ByVal tol As Double) As Boolean
     IsLongP = CBool(Dll_IsLongP(x, tol))
 End Function
 
-' Whether half of x, as rounded, is whole or less than 2^-52 above a whole number.
+' Tests whether x is even.
 Public Function IsEven(ByVal x As Double) As Boolean
     IsEven = CBool(Dll_IsEven(x))
 End Function
 
-' Whether n is even.
+' Tests whether n is even.
 Public Function IsEvenLng(ByVal n As Long) As Boolean
     IsEvenLng = CBool(Dll_IsEvenLng(n))
 End Function
 
-' v moved away from zero: a value that is not whole goes to the next whole number or, with half, to
-' the next multiple of a half.
+' Rounds away from zero to an integer or a multiple of 1/2.
 Public Function Int05(ByVal v As Double, ByVal half As Boolean) As Double
     Int05 = Dll_Int05(v, CLng(half))
 End Function
 
-' v moved to the closest whole number or, with half, to the closest multiple of a half.
+' Rounds to the nearest integer or multiple of 1/2.
 Public Function Int05c(ByVal v As Double, ByVal half As Boolean) As Double
     Int05c = Dll_Int05c(v, CLng(half))
 End Function
 
-' v moved down or up the number line to a whole number or, with half, to a multiple of a half.
+' Rounds down or up to an integer or a multiple of 1/2.
 Public Function Int05LU(ByVal v As Double, ByVal half As Boolean, _
     ByVal lower As Boolean) As Double
     Int05LU = Dll_Int05LU(v, CLng(half), CLng(lower))
 End Function
 
-' The straight line through (x1, y1) and (x2, y2), used in either direction.
+' Computes a point of the straight line y = a * x + b through (x1, y1) and (x2, y2).
 Public Function LinearInterpol(ByVal x1 As Double, ByVal x2 As Double, ByVal y1 As Double, _
     ByVal y2 As Double, ByRef x As Double, ByRef y As Double, ByVal forward As Boolean) As Long
     LinearInterpol = Dll_LinearInterpol(x1, x2, y1, y2, x, y, CLng(forward))
 End Function
 
-' The parabola a * x^2 + b * x + c through three points, used in either direction.
+' Computes a point of the parabola y = a * x^2 + b * x + c through (x1, y1), (x2, y2) and (x3, y3).
 Public Function QuadraticInterpol(ByVal x1 As Double, ByVal x2 As Double, ByVal x3 As Double, _
     ByVal y1 As Double, ByVal y2 As Double, ByVal y3 As Double, ByRef x As Double, _
     ByRef xSecond As Double, ByRef y As Double, ByVal forward As Boolean) As Long
@@ -389,8 +385,8 @@ Public Function QuadraticInterpol(ByVal x1 As Double, ByVal x2 As Double, ByVal 
         CLng(forward))
 End Function
 
-' Replaces every occurrence of pattern in text, which stays as it is; vbNullString for vbNullString.
-' result tells what the library did to its copy of text.
+' Replaces every occurrence of pattern in a copy of text; vbNullString if text is vbNullString.
+' result receives what the library did with the copy.
 Public Function VB_Replace( _
     ByVal text As String, ByVal pattern As String, ByVal replacement As String, _
     Optional ByRef result As ReplaceResult = ReplaceResult.NewString) As String
@@ -411,8 +407,8 @@ Public Function VB_Replace( _
     If replaced <> handle Then Call releaseBSTR(handle)
 End Function
 
-' Sets the first count elements of an array to one decimal pattern of digits digits, the one before
-' the point included. If digitsOverride is not -1, it counts in the place of digits.
+' Assigns one decimal pattern to the first count elements of an array. digits is the number of digits
+' in the pattern, including the one before the point; digitsOverride replaces it, unless it is -1.
 Public Sub VB_SetFormat( _
     ByRef formats() As String, ByVal count As Long, ByVal digits As Long, _
     Optional ByVal digitsOverride As Long = -1)
@@ -427,19 +423,19 @@ Public Sub VB_SetFormat( _
     Next i
 End Sub
 
-' Returns a new host string, which the caller passes to TakeText once; 0 for vbNullString.
+' Returns a new host string, or 0 for vbNullString. Pass it to TakeText once.
 Public Function HostString(ByVal text As String) As LongPtr
     HostString = 0
     If StrPtr(text) <> 0 Then HostString = SysAllocString16(StrPtr(text))
 End Function
 
-' Releases a host string and returns its text; vbNullString for 0.
+' Releases a host string and returns its text, or vbNullString for 0.
 Public Function TakeText(ByVal handle As LongPtr) As String
     TakeText = TextOf(handle)
     Call releaseBSTR(handle)
 End Function
 
-' The text of a host string; vbNullString for 0.
+' Returns the text of a host string, or vbNullString for 0.
 Private Function TextOf(ByVal handle As LongPtr) As String
     Dim text As String
     TextOf = vbNullString

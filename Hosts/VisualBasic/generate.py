@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Prints a file for Visual Basic, generated from the library's header by way of Doxygen's XML:
+"""Prints a file for Visual Basic, generated from Doxygen's XML of the library's header:
 
     generate.py QUVARDBS1C.vb              declarations for .NET
     generate.py QUVARDBS1C.bas             declarations for Visual Basic for Applications
     generate.py visual-basic-routines.md   the page of all routines, for docs
 
-Each file has a template beside this script with the parts that are written by hand. A routine that a
-template declares is not generated. `scripts/docs --renew` updates all three.
+Each file has a template beside this script, with the parts written by hand. Routines that a template
+declares are not generated. `scripts/docs --renew` updates all three files.
 """
 import re
 import subprocess
@@ -21,15 +21,15 @@ FOLDER = Path(__file__).resolve().parent
 HEADER = "Sources/Shared/QUVARDBS1C/QUVARDBS1C.h"
 WIDTH = 100
 
-# Names that the language has: Mod is an operator, Sqr a function of Applications, To a keyword.
+# Names of the language: Mod is an operator, Sqr a function in Applications, To a keyword.
 RENAMED = {"Mod": "ModLng", "sqr": "SqrDbl"}
 RENAMED_ARGUMENTS = {"to": "to_"}
 SYMBOLS = {"LCD2": "_Z4LCD2dd"}  # C++ linkage
-USUAL_VALUES = {  # of flags, which are optional
+DEFAULTS = {  # make flags optional
     "VB_LocalAN2": {"upperAdjective": "True", "lowerResult": "False", "noBlank": "False"},
     "VB_LowerFirst": {"forceDE": "False"},
 }
-# What the header says to C and C++, and what it means in Visual Basic.
+# Terms of C and C++ with their equivalents in Visual Basic.
 WORDING = [
     (r"^new host string(; )?", ""), (r"\bhost string", "String"),
     (r"\b(the )?null( handle)?\b", "Nothing"), (r"\b(is|if) (not )?set\b", r"\1 \2True"),
@@ -39,18 +39,20 @@ WORDING = [
 # ---- The header ----
 
 def text_of(node):
-    """The text below a node on one line, without tables, titled paragraphs and parameters."""
+    """Returns the text below a node on one line, without parameters, result, example, warnings and tables."""
     def words(node):
-        if node.tag in ("parameterlist", "simplesect", "table"):
+        title = node.findtext("title")
+        if node.tag in ("parameterlist", "table") or node.tag == "simplesect" and title in (None, "Example"):
             return node.tail or ""
-        return (node.text or "") + "".join(map(words, node)) + (node.tail or "")
+        end = ": " if node.tag == "title" else ""
+        return (node.text or "") + "".join(map(words, node)) + end + (node.tail or "")
     return " ".join(((node.text or "") + "".join(map(words, node))).split())
 
 
 class Routine:
     def __init__(self, node):
         brief, details = node.find("briefdescription"), node.find("detaileddescription")
-        self.id, self.name = node.get("id"), node.findtext("name")
+        self.name = node.findtext("name")
         self.title = RENAMED.get(self.name, self.name)
         self.result = text_of(node.find("type"))
         self.arguments = {p.findtext("declname"): text_of(p.find("type")).replace(" ", "")
@@ -58,38 +60,43 @@ class Routine:
         self.kinds = {self.result, *self.arguments.values()}
         self.is_wide = "wstring" in str(self.kinds)
         self.summary = text_of(brief)
-        self.mentions = {reference.get("refid") for reference in brief.iter("ref")}
-        # A text beside a table refers to it.
+        # Text beside a table refers to it.
         self.remarks = "" if details.find(".//table") is not None else text_of(details)
-        self.notes = {item.findtext(".//parametername"): text_of(item.find("parameterdescription"))
-                      for item in details.findall(".//parameterlist[@kind='param']/parameteritem")}
+        self.notes = {name.text: text_of(item.find("parameterdescription"))
+                      for item in details.findall(".//parameterlist[@kind='param']/parameteritem")
+                      for name in item.iter("parametername")}
         self.returns = "; ".join(map(text_of, details.findall(".//simplesect[@kind='return']")))
         code = ["".join(node.itertext()) for node in details.iter("computeroutput")]
         self.example = next((c for c in reversed(code) if self.name + "(" in c), "")
 
-    def take_contract_of(self, form):
-        self.summary, self.remarks = form.summary, form.remarks
-        self.notes = {**form.notes, **self.notes}
-        if self.result == "BSTR" or not self.returns:
-            self.returns = "; ".join(filter(None, (self.returns, form.returns)))
+    def wide_form(self):
+        """The name of the wide routine whose host form this is."""
+        return next(iter(re.findall(r"Host form of (\w+)\(\)", self.remarks)), None)
+
+    def complete_from(self, form):
+        """A host form has only those remarks that its wide form does not have."""
+        own = re.sub(r" ?Host form of \w+\(\)\.", "", self.remarks)
+        self.remarks = f"{form.remarks} {own}".strip()
+        if self.returns == "new host string":
+            self.returns = form.returns
 
     def translate(self, names, wide):
-        """Words the contract for Visual Basic."""
+        """Translates the contract into terms of Visual Basic."""
         def translated(text):
             for pattern, replacement in WORDING:
                 text = re.sub(pattern, replacement, text)
             return re.sub(r"\b\w+(?=\()", lambda name: names.get(name[0], name[0]), text)
         self.summary, self.returns = translated(self.summary), translated(self.returns)
         self.notes = {name: translated(note) for name, note in self.notes.items()}
-        # No sentence on routines that are for C++ alone.
+        # Without sentences on routines that only C++ has.
         self.remarks = " ".join(s for s in re.split(r"(?<=\.) ", translated(self.remarks))
                                 if not set(re.findall(r"\w+(?=\()", s)) & wide - {self.name})
         if self.result == "HostBool":
-            self.returns = re.sub(r"(?<!\S)0\b", "False", self.returns.replace("-1", "True"))
+            self.returns = re.sub(r"(?<!\S)0\b", "False", re.sub(r"(?<!\S)-1\b", "True", self.returns))
 
 
 def read_header():
-    """The topics of the header: titles, with the routines that are for Visual Basic."""
+    """Returns the topics of the header: pairs of a title and the routines for Visual Basic."""
     with tempfile.TemporaryDirectory() as folder:
         settings = (f"@INCLUDE = docs/doxygen/Doxyfile\nINPUT = {HEADER}\nOUTPUT_DIRECTORY = {folder}\n"
                     "GENERATE_HTML = NO\nGENERATE_XML = YES\nWARN_AS_ERROR = NO\n")
@@ -104,16 +111,14 @@ def read_header():
         topics.append((line, title, [Routine(node) for node in nodes]))
     topics.sort(key=lambda topic: topic[0])
     everything = [routine for topic in topics for routine in topic[2]]
-    wide = {routine.id: routine for routine in everything if routine.is_wide}
+    wide = {routine.name: routine for routine in everything if routine.is_wide}
     names = dict(RENAMED)
     for routine in everything:
-        # The wide form that a summary mentions, with as many arguments, has the contract.
-        for form in map(wide.get, routine.mentions & wide.keys()):
-            if not routine.is_wide and len(form.arguments) == len(routine.arguments):
-                names[form.name] = routine.name
-                routine.take_contract_of(form)
+        if form := routine.wide_form():
+            names[form] = routine.name
+            routine.complete_from(wide[form])
     for routine in everything:
-        routine.translate(names, {form.name for form in wide.values()})
+        routine.translate(names, wide.keys())
     topics = [(title, [r for r in routines if not r.is_wide]) for _, title, routines in topics]
     return [topic for topic in topics if topic[1]]
 
@@ -124,7 +129,7 @@ STRING = r'"(?:[^"\\]|\\.)*"'
 
 
 def split(text, separator):
-    """The parts of an expression between separators that are in no string and no parentheses."""
+    """Splits an expression at the separators outside strings and parentheses."""
     parts, depth = [""], 0
     for token in re.findall(f"{STRING}|{re.escape(separator)}|.", text):
         depth += (token in "([{") - (token in ")]}")
@@ -140,8 +145,8 @@ def flag(value):
 
 
 def example(routine):
-    """The example of a contract in Visual Basic: "value  ' expected", or, where the header has
-    (statements, value) == expected, "statements  ' value = expected"."""
+    """Translates "value == expected" of the header into "value  ' expected", and
+    "(statements, value) == expected" into "statements  ' value = expected"."""
     if not routine.example:
         sys.exit(f"{HEADER}: {routine.name} has no example")
     left, right, *_ = split(routine.example, " == ") + ["-1"]
@@ -164,7 +169,7 @@ def example(routine):
 # ---- Declarations ----
 
 def wrapped(line, indent, continuation=""):
-    """A line of code, continued after a comma or an opening parenthesis where it is too long."""
+    """Breaks a long line of code after commas and opening parentheses."""
     lines = [""]
     for part in re.split(r"(?<=, )|(?<=\()(?<!CInt\(|CLng\()(?<!StrPtr\()(?=\w)|(?= Alias)", line):
         if len(lines[-1] + part.rstrip() + continuation) > WIDTH:
@@ -176,26 +181,26 @@ def wrapped(line, indent, continuation=""):
 
 
 def signature(routine, types, by_value="", defaults=False):
-    """Arguments and result, each by the type that stands for that of C."""
+    """Returns arguments and result, with a type of Visual Basic for each type of C."""
     arguments = []
     for name, kind in routine.arguments.items():
-        usual = USUAL_VALUES.get(routine.name, {}).get(name) if defaults else None
-        arguments.append(("Optional " if usual else "") + ("ByRef " if kind.endswith("*") else by_value)
+        default = DEFAULTS.get(routine.name, {}).get(name) if defaults else None
+        arguments.append(("Optional " if default else "") + ("ByRef " if kind.endswith("*") else by_value)
                          + f"{RENAMED_ARGUMENTS.get(name, name)} As {types[kind.rstrip('*')]}"
-                         + (f" = {usual}" if usual else ""))
+                         + (f" = {default}" if default else ""))
     result = "" if routine.result == "void" else f" As {types[routine.result]}"
     return f"({', '.join(arguments)}){result}"
 
 
 def call(routine, native, conversions, result):
-    """A call of the library's own form."""
+    """Returns a call of the exported routine."""
     arguments = [conversions.get(kind, "{}").format(RENAMED_ARGUMENTS.get(name, name))
                  for name, kind in routine.arguments.items()]
     return result.get(routine.result, "{}").format(f"{native}({', '.join(arguments)})")
 
 
 def comment(routine):
-    """The contract as an XML comment."""
+    """Returns the contract as an XML comment."""
     elements = [("summary", "", routine.summary)]
     elements += [("param", f' name="{RENAMED_ARGUMENTS.get(name, name)}"', routine.notes[name])
                  for name in routine.arguments if name in routine.notes]
@@ -207,7 +212,7 @@ def comment(routine):
 
 
 def declare_net(routine):
-    """What .NET sees, and the library's own form if that differs."""
+    """Returns the public function, and the declaration of the exported routine if that differs."""
     numbers = {"int32_t": "Integer", "double": "Double"}
     word = "Sub" if routine.result == "void" else "Function"
     symbol = SYMBOLS.get(routine.name, routine.name)
@@ -233,7 +238,7 @@ def declare_net(routine):
 
 
 def declare_applications(routine):
-    """The function of a routine, if it needs one, and the declaration."""
+    """Returns the function that converts, if there is one, and the declaration."""
     numbers = {"int32_t": "Long", "double": "Double"}
     word = "Sub" if routine.result == "void" else "Function"
     needs_function = bool(routine.kinds & {"BSTR", "HostBool"})
@@ -270,7 +275,7 @@ def declarations(file, declare):
 
 
 def page(file):
-    """The public members of the declarations for .NET, by topic; those of no topic are helpers."""
+    """Returns a table for each topic with its public members for .NET. The others are helpers."""
     rows = {}
     members = r"((?: +'''.*\n)+)(?: +<.*>\n)? +Public (?:Function|Sub) (\w+)((?:.*,\n)*.*)"
     for text, name, rest in re.findall(members, declarations("QUVARDBS1C.vb", declare_net)):

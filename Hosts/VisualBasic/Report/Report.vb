@@ -1,5 +1,5 @@
-' The report of the example host, written in Visual Basic: it calls the library through QUVARDBS1C.vb
-' and prints numbers by the patterns that the library builds.
+' Prints the report of the C++ example: calls the library through QUVARDBS1C.vb, and prints numbers by the
+' patterns that it returns.
 Option Strict On
 Imports QUVARDBS1C.Routines
 Imports System.Globalization
@@ -28,7 +28,7 @@ Module Report
             AddNumbers()
             AddHeading("Statistics")
             AddStatistics()
-            ' UTF-8 whatever the terminal's own encoding.
+            ' UTF-8, independent of the terminal's encoding.
             Using terminal = Console.OpenStandardOutput()
                 terminal.Write(Encoding.UTF8.GetBytes(Output.ToString()))
             End Using
@@ -50,7 +50,7 @@ Module Report
         AddLine()
     End Sub
 
-    ' text and blanks up to a width in code points.
+    ' Pads a text with blanks to a width in code points.
     Private Function Padded(text As String, width As Integer) As String
         Return text.PadRight(width + text.Count(Function(unit) Char.IsLowSurrogate(unit)))
     End Function
@@ -98,7 +98,7 @@ Module Report
         AddText("commas counted", "a, b, c", CStr(ChrCount("a, b, c", ",")))
     End Sub
 
-    ' A number by the pattern that shows its decimals.
+    ' Prints a number with all its decimals.
     Private Function Number(value As Double) As String
         Return FormatByPattern(value, VB_OutputFormat(value))
     End Function

@@ -1,23 +1,30 @@
 /// @file
-/// Host strings: how they are made, read and released.
+/// Declares the services that make, read and release host strings.
 ///
-/// A host string (`BSTR`) is one pointer to the first unit of a run of 16-bit units that ends at
-/// its first zero unit. The pointer is aligned to 2 bytes. Nothing before it is ever read, so any
-/// zero-terminated run of 16-bit units may be given where a service takes a host string.
+/// A host string (`BSTR`) is a pointer to null-terminated text of 16-bit code units, aligned to 2 bytes.
+/// Nothing before the pointer is read, so any null-terminated array of 16-bit code units can be passed as
+/// an argument.
 ///
-/// On x86 processors the services read texts of more than 7 units in blocks of 16 bytes, aligned to
-/// 16 bytes. So up to 14 bytes after the terminating zero unit may be read. They are on the same page
-/// of memory, and their values have no effect.
+/// On x86 processors the services read texts of more than 7 code units in aligned blocks of 16 bytes. A
+/// block may contain up to 14 bytes after the null terminator. They are on the same page of memory, and
+/// their values have no effect.
 ///
-/// Units pass one for one. On the way in each 16-bit unit becomes one wide unit of the same value,
-/// and no surrogate pair is folded, so positions and lengths mean the same on both sides. On the
-/// way out a unit up to 0xFFFF, a surrogate included, goes out unchanged; a unit from 0x10000 to
-/// 0x10FFFF becomes its surrogate pair; a unit above that (or negative) becomes U+FFFD.
+/// Conversion is by code unit:
 ///
-/// Every service may be called on any number of threads at once. Those that allocate may throw
-/// `std::bad_alloc` and nothing else; none of them leaks when it does. No service is
-/// async-signal-safe: a call from a signal handler may overwrite the buffer that the interrupted
-/// call is reading, or wait for ever inside the memory allocator.
+/// | From                                       | To                                     |
+/// |--------------------------------------------|----------------------------------------|
+/// | 16-bit code unit, also a surrogate         | wide code unit of the same value       |
+/// | wide code unit up to 0xFFFF, also a surrogate | 16-bit code unit of the same value  |
+/// | wide code unit from 0x10000 to 0x10FFFF    | surrogate pair                         |
+/// | any other wide code unit                   | U+FFFD                                 |
+///
+/// Surrogates are not combined into one wide code unit, so positions and lengths are the same on both
+/// sides.
+///
+/// - Every service may be called on any number of threads at once.
+/// - Services that allocate throw only `std::bad_alloc`, and then leak nothing.
+/// - No service is async-signal-safe. A call from a signal handler may overwrite the buffer that the
+///   interrupted call reads, or wait forever in the memory allocator.
 #ifndef QUVARDCR1C_H
 #define QUVARDCR1C_H
 
@@ -29,9 +36,9 @@
 #define QUVARDCR1C_API __attribute__((visibility("default")))
 
 #ifdef __cplusplus
-/// A host string: one pointer to the first 16-bit unit of a zero-terminated run. Null is legal.
+/// A host string: a pointer to null-terminated text of 16-bit code units, or null.
 typedef char16_t* BSTR;
-/// One unit of a host string.
+/// A 16-bit code unit.
 typedef char16_t QUVARDUnit16;
 extern "C" {
 #else
@@ -42,32 +49,36 @@ typedef uint_least16_t QUVARDUnit16;
 
 /// @defgroup host_strings Host strings, in the sibling library (QUVARDCR1C)
 ///
-/// How host strings are made, read and released.
+/// Services that make, read and release host strings.
 ///
-/// Callers make them with SysAllocString16() and release them with releaseBSTR(). The other services
-/// are what the routines of QUVARDBS1C call.
+/// Callers make host strings with SysAllocString16() and release them with releaseBSTR(). The routines of
+/// QUVARDBS1C call the other services.
 /// @{
 
-/// A new host string with the units at @p units, which end at their first zero unit.
+/// Makes a host string from 16-bit code units.
 ///
-/// @param units  zero-terminated 16-bit units, aligned to 2 bytes; null gives a new empty string
-/// @return       new host string, which the caller owns and gives to releaseBSTR()
+/// @param units  null-terminated 16-bit code units, aligned to 2 bytes; null: the empty string
+/// @return       new host string, which the caller releases with releaseBSTR()
 /// @throws std::bad_alloc
 QUVARDCR1C_API BSTR SysAllocString16(const QUVARDUnit16* units);
 
-/// The number of units before the terminating zero unit. Does not throw.
+/// Returns the length of a host string. Does not throw.
 ///
-/// @param units  zero-terminated 16-bit units, aligned to 2 bytes, not null
+/// @param units  null-terminated 16-bit code units, aligned to 2 bytes, not null
+/// @return       number of code units before the null terminator
 QUVARDCR1C_API size_t wcslen16(const QUVARDUnit16* units);
 
-/// Releases a host string that a service or a host routine made; null is allowed. Does not throw.
+/// Releases a host string. Does not throw.
+///
+/// @param handle  host string that a service or a host routine returned, or null
 QUVARDCR1C_API void releaseBSTR(BSTR handle);
 
-/// Returns the code units of @p handle as wide code units, null-terminated.
+/// Returns the text of @p handle as null-terminated wide code units, in the buffer of the thread.
 ///
-/// A thread keeps its buffer: 1 KiB at first; for longer texts 4 bytes per code unit, rounded up to a
-/// power of two; at most 4 MiB. A larger one is released when the thread's next text fits into 4 MiB. The
-/// buffer of a thread that has ended is released when other threads get their first buffer or a new one.
+/// The buffer has 1 KiB at first. For a longer text it has 4 bytes per code unit, rounded up to a power of
+/// two. A thread keeps a buffer of at most 4 MiB; a larger one is released when the thread's next text fits
+/// into 4 MiB. The buffer of a thread that has ended is released when another thread gets its first
+/// buffer or a new one.
 ///
 /// @param handle  host string, not null
 /// @return        buffer of the calling thread, valid until the thread's next call of CW162W32(); not
@@ -75,30 +86,32 @@ QUVARDCR1C_API void releaseBSTR(BSTR handle);
 /// @throws std::bad_alloc
 QUVARDCR1C_API wchar_t* CW162W32(BSTR handle);
 
-/// A new host string with the wide units at @p units.
+/// Makes a host string from wide code units.
 ///
-/// @param units  zero-terminated wide units, not null
-/// @return       new host string, which the caller owns and gives to releaseBSTR()
+/// @param units  null-terminated wide code units, not null
+/// @return       new host string, which the caller releases with releaseBSTR()
 /// @throws std::bad_alloc
 QUVARDCR1C_API BSTR SysAllocString2(const wchar_t* units);
 
 #ifdef QUVARDBS1C_WIDE_ROUTINES
 #ifdef __clang__
 #pragma clang diagnostic push
-// C linkage fixes the symbol's name. Only C++ callers see these two, and those that define
-// QUVARDBS1C_NO_WIDE_ROUTINES do not.
+// C linkage fixes the symbol names. Only C++ callers that do not define QUVARDBS1C_NO_WIDE_ROUTINES see
+// these two services.
 #pragma clang diagnostic ignored "-Wreturn-type-c-linkage"
 #endif
 
-/// The text of the host string that @p handle holds.
+/// Returns the text of a host string.
 ///
-/// @param handle  variable that holds a host string; null gives the empty string
+/// @param handle  variable that holds a host string; null: the empty string
+/// @return        code units as wide code units
 /// @throws std::bad_alloc
 QUVARDCR1C_API std::wstring convertBSTRtoWstring(BSTR& handle);
 
-/// A new host string with the units of @p text up to its first zero unit.
+/// Makes a host string from a wide string.
 ///
-/// @return new host string, which the caller owns and gives to releaseBSTR()
+/// @param text  wide string, read up to its first zero code unit
+/// @return      new host string, which the caller releases with releaseBSTR()
 /// @throws std::bad_alloc
 QUVARDCR1C_API BSTR convertWstringToBSTR(std::wstring text);
 

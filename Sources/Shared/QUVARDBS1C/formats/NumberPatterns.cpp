@@ -7,12 +7,12 @@
 #include "host/Boundary.h"
 #include "host/HostBool.h"
 #include "numerics/Constants.h"
+#include "numerics/IntegerDistance.h"
 #include "numerics/StrictDoubles.h"
 #include "numerics/TruncLng.h"
-#include "numerics/WholeDistance.h"
 
 using quvard::isSet;
-using quvard::kWholeTolerance;
+using quvard::kIntegerTolerance;
 using quvard::TextBuffer;
 using quvard::TruncLng;
 
@@ -59,8 +59,8 @@ DecimalPattern digitPattern(int32_t digits, int32_t digitsOverride) {
 // OutputFormat and OptimalFormat differ in what counts as whole: for the one what is near a whole
 // number on either side, NaN and the infinities included; for the other what is near the 32-bit
 // integer that it is truncated to, so a number just nearer to zero than a whole one does not count.
-bool isNearWhole(double x) { return !(quvard::wholeDistance(x) > kWholeTolerance); }
-bool isNearTruncated(double x) { return std::abs(TruncLng(x) - x) < kWholeTolerance; }
+bool isNearWhole(double x) { return !(quvard::integerDistance(x) > kIntegerTolerance); }
+bool isNearTruncated(double x) { return std::abs(TruncLng(x) - x) < kIntegerTolerance; }
 
 const wchar_t* outputPattern(double value) {
   if (isNearWhole(value * 1e19)) return isNearWhole(value) ? L"0" : L"0.###################";
@@ -73,7 +73,7 @@ constexpr double kPowersOfTen[] = {1e-12, 1e-11, 1e-10, 1e-9, 1e-8, 1e-7, 1e-6, 
                                    1e-3,  1e-2,  1e-1,  1e0,  1e1,  1e2,  1e3,  1e4,  1e5,
                                    1e6,   1e7,   1e8,   1e9,  1e10, 1e11, 1e12};
 static_assert(std::size(kPowersOfTen) == 2 * kHighestPower + 1);
-static_assert(kPowersOfTen[0] <= kWholeTolerance);
+static_assert(kPowersOfTen[0] <= kIntegerTolerance);
 
 constexpr double powerOfTen(int32_t exponent) { return kPowersOfTen[exponent + kHighestPower]; }
 
@@ -82,7 +82,7 @@ constexpr double powerOfTen(int32_t exponent) { return kPowersOfTen[exponent + k
 // bits may decide. Their error is far below kDoubt.
 constexpr double kDoubt = 1e-9;
 
-// The decimal exponent of a magnitude above kWholeTolerance, truncated toward zero.
+// The decimal exponent of a magnitude above kIntegerTolerance, truncated toward zero.
 int32_t exponentOf(double magnitude) {
   int32_t floor = 0;
   while (floor + 1 < kHighestPower && magnitude >= powerOfTen(floor + 1)) ++floor;
@@ -113,7 +113,7 @@ DecimalPattern optimalPattern(double value, int32_t decimals, HostBool useExpone
                               HostBool keepDecimals) {
   const double magnitude = std::abs(value);
   const bool mayHaveExponent =
-      isSet(useExponent) && magnitude > kWholeTolerance && !std::isinf(magnitude);
+      isSet(useExponent) && magnitude > kIntegerTolerance && !std::isinf(magnitude);
   const int32_t exponent = mayHaveExponent ? exponentOf(magnitude) : 0;
   const std::wstring_view exponentPart =
       mayHaveExponent ? exponentPartOf(exponent, decimals) : L""sv;

@@ -19,7 +19,7 @@ consteval double constant(double decimal, uint64_t bits) {
 inline constexpr double ExtremeDbl = constant(1.79769313486231e+308, 0x7FEFFFFFFFFFFFE2);
 
 // How far off a whole number a number may be and still count as whole, and as even.
-inline constexpr double kWholeTolerance = constant(1e-12, 0x3D719799812DEA11);
+inline constexpr double kIntegerTolerance = constant(1e-12, 0x3D719799812DEA11);
 inline constexpr double kEvenTolerance = constant(2.220446049250313e-16, 0x3CB0000000000000);
 
 // Both 7 units in the last place below the correctly rounded values.

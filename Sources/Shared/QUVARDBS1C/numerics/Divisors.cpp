@@ -45,7 +45,7 @@ bool isWholeButForRounding(double t) {
 
 double decimalPlaces(double t) {
   double places = 0.0;
-  while (std::fabs(t - std::trunc(t)) > quvard::kWholeTolerance && !isWholeButForRounding(t)) {
+  while (std::fabs(t - std::trunc(t)) > quvard::kIntegerTolerance && !isWholeButForRounding(t)) {
     places += 1.0;
     t *= 10.0;
   }

@@ -14,7 +14,7 @@ double Int05(double v, HostBool half) noexcept {
   const double next = std::floor(m + 1.0);
   if (!quvard::isSet(half)) return sign * next;
   const double toHalf = (quvard::TruncLng(m + 1.0) - m) - 0.5;
-  return sign * (toHalf < quvard::kWholeTolerance ? next : next - 0.5);
+  return sign * (toHalf < quvard::kIntegerTolerance ? next : next - 0.5);
 }
 
 double Int05c(double v, HostBool half) noexcept {
@@ -23,7 +23,7 @@ double Int05c(double v, HostBool half) noexcept {
   if (std::floor(m) == m) return sign * m;
   const double closest = std::floor(quvard::kClosestOffset + m);
   const double above = m - closest;
-  if (!quvard::isSet(half) || std::fabs(above) - 0.25 < quvard::kWholeTolerance) {
+  if (!quvard::isSet(half) || std::fabs(above) - 0.25 < quvard::kIntegerTolerance) {
     return sign * closest;
   }
   return sign * (closest + std::copysign(0.5, above));

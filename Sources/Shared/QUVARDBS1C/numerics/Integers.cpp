@@ -3,13 +3,13 @@
 #include "QUVARDBS1C.h"
 #include "host/HostBool.h"
 #include "numerics/Constants.h"
+#include "numerics/IntegerDistance.h"
 #include "numerics/StrictDoubles.h"
-#include "numerics/WholeDistance.h"
 
-HostBool IsLong(double x) noexcept { return IsLongP(x, quvard::kWholeTolerance); }
+HostBool IsLong(double x) noexcept { return IsLongP(x, quvard::kIntegerTolerance); }
 
 HostBool IsLongP(double x, double tol) noexcept {
-  return quvard::hostBool(!(quvard::wholeDistance(x) > tol));
+  return quvard::hostBool(!(quvard::integerDistance(x) > tol));
 }
 
 HostBool IsEven(double x) noexcept {
