@@ -1,5 +1,4 @@
-// Search for one pattern in texts, in time linear in the text whatever text and pattern hold, and
-// without memory from the heap.
+// Search for a pattern, in time linear in the text for any pattern, without memory from the heap.
 #ifndef QUVARDBS1C_STRINGS_PATTERNSEARCH_H
 #define QUVARDBS1C_STRINGS_PATTERNSEARCH_H
 
@@ -15,28 +14,26 @@
 
 namespace quvard {
 
-// Search for a pattern of two units or more whose time does not grow with the pattern: the two-way
-// algorithm (Crochemore and Perrin, 1991). The pattern is cut in two. Its right part is compared
-// first, forward, and a unit that differs there moves the search on past all units compared. Then
-// the left part is compared, and a unit that differs there moves the search on by a whole period.
+// Two-way search (Crochemore and Perrin, 1991) for a pattern of at least two code units. The pattern is split
+// at a critical position. The right part is compared first, forward; a mismatch shifts the pattern past the
+// compared units. Then the left part is compared, backward; a mismatch shifts the pattern by its period.
 template <typename Unit>
 class TwoWaySearch {
  public:
   using View = std::basic_string_view<Unit>;
 
   explicit TwoWaySearch(View pattern) : pattern_(pattern) {
-    // The cut is before the shorter of the two greatest suffixes, in the order of the units and in
-    // the reverse order. So cut, no repetition around the cut is shorter than the period.
-    const Suffix rising = greatestSuffix(std::less<Unit>());
-    const Suffix falling = greatestSuffix(std::greater<Unit>());
-    const Suffix& shorter = rising.start > falling.start ? rising : falling;
-    cut_ = shorter.start;
+    // The shorter of the maximal suffixes under both orders of the units begins at a critical position.
+    const Suffix byLess = maximalSuffix(std::less<Unit>());
+    const Suffix byGreater = maximalSuffix(std::greater<Unit>());
+    const Suffix& shorter = byLess.start > byGreater.start ? byLess : byGreater;
+    critical_ = shorter.start;
     period_ = shorter.period;
-    // The suffix is no shorter than its period, so that both runs compared are in the pattern.
-    if (pattern.substr(0, cut_) == pattern.substr(period_, cut_)) {
+    // In range, because the suffix is at least as long as its period.
+    if (pattern.substr(0, critical_) == pattern.substr(period_, critical_)) {
       overlap_ = pattern.size() - period_;
     } else {
-      period_ = std::max(cut_, pattern.size() - cut_) + 1;
+      period_ = std::max(critical_, pattern.size() - critical_) + 1;
     }
   }
 
@@ -44,16 +41,16 @@ class TwoWaySearch {
   std::size_t find(std::basic_string_view<TextUnit> text, std::size_t from) const {
     const std::size_t size = pattern_.size();
     if (text.size() < size) return View::npos;
-    std::size_t known = 0;  // number of units at the start of the pattern that match already
+    std::size_t known = 0;  // length of the prefix of the pattern that is known to match
     for (std::size_t at = from; at <= text.size() - size;) {
-      std::size_t i = std::max(cut_, known);
+      std::size_t i = std::max(critical_, known);
       while (i < size && pattern_[i] == text[at + i]) ++i;
       if (i < size) {
-        at += i - cut_ + 1;
+        at += i - critical_ + 1;
         known = 0;
         continue;
       }
-      i = cut_;
+      i = critical_;
       while (i > known && pattern_[i - 1] == text[at + i - 1]) --i;
       if (i <= known) return at;
       at += period_;
@@ -69,51 +66,51 @@ class TwoWaySearch {
   };
 
   template <typename Less>
-  Suffix greatestSuffix(Less less) const {
-    Suffix greatest{0, 1};
-    std::size_t other = 1;  // start of the suffix that is compared with the greatest so far
-    for (std::size_t length = 0; other + length < pattern_.size();) {
-      const Unit ofGreatest = pattern_[greatest.start + length];
-      const Unit ofOther = pattern_[other + length];
-      if (less(ofOther, ofGreatest)) {
-        other += length + 1;
+  Suffix maximalSuffix(Less less) const {
+    Suffix maximal{0, 1};
+    std::size_t candidate = 1;  // start of the suffix compared with the maximal one so far
+    for (std::size_t length = 0; candidate + length < pattern_.size();) {
+      const Unit maximalUnit = pattern_[maximal.start + length];
+      const Unit candidateUnit = pattern_[candidate + length];
+      if (less(candidateUnit, maximalUnit)) {
+        candidate += length + 1;
         length = 0;
-        greatest.period = other - greatest.start;
-      } else if (less(ofGreatest, ofOther)) {
-        greatest = {other, 1};
-        ++other;
+        maximal.period = candidate - maximal.start;
+      } else if (less(maximalUnit, candidateUnit)) {
+        maximal = {candidate, 1};
+        ++candidate;
         length = 0;
-      } else if (++length == greatest.period) {
-        other += length;
+      } else if (++length == maximal.period) {
+        candidate += length;
         length = 0;
       }
     }
-    return greatest;
+    return maximal;
   }
 
   View pattern_;
-  std::size_t cut_ = 0;
-  std::size_t period_ = 1;
-  std::size_t overlap_ = 0;  // of two occurrences a period apart, if the whole pattern is periodic
+  std::size_t critical_ = 0;
+  std::size_t period_ = 1;   // of the pattern, or a shift that misses no occurrence
+  std::size_t overlap_ = 0;  // length of the prefix that still matches after a shift by the period
 };
 
-// A pattern up to this length wastes at most its few units at each position of a text.
+// Up to this length a pattern is compared at each candidate position, which costs few comparisons.
 inline constexpr std::size_t kShortPattern = 16;
 
-// The units of the texts may be wider than those of the pattern.
+// The code units of the text may be wider than those of the pattern.
 template <typename Unit>
 class PatternSearch {
  public:
   using View = std::basic_string_view<Unit>;
 
-  // The pattern outlives the search.
+  // The pattern must outlive the search.
   explicit PatternSearch(View pattern) : pattern_(pattern) {
     if (pattern.size() > kShortPattern) long_.emplace(pattern);
   }
 
   std::size_t patternSize() const { return pattern_.size(); }
 
-  // The position of the first occurrence, or npos. An empty pattern is found at once.
+  // Returns the position of the first occurrence, or npos. An empty pattern is found at 0.
   template <typename TextUnit>
   std::size_t find(std::basic_string_view<TextUnit> text) const {
     if (pattern_.empty()) return 0;
@@ -125,8 +122,8 @@ class PatternSearch {
     return found;
   }
 
-  // Calls `visit` with the position of each occurrence, from left to right and without overlap. An
-  // empty pattern has none.
+  // Calls `visit` with the position of each occurrence, from left to right and without overlap. An empty
+  // pattern does not occur.
   template <typename TextUnit, typename Visit>
   void forEach(std::basic_string_view<TextUnit> text, Visit visit) const {
     if (pattern_.empty()) return;
@@ -136,8 +133,7 @@ class PatternSearch {
     });
   }
 
-  // The same for a pattern that is not empty, but occurrences that overlap the one before are visited
-  // too.
+  // Same, with overlapping occurrences. Precondition: the pattern is not empty.
   template <typename TextUnit, typename Visit>
   void forEachOverlapping(std::basic_string_view<TextUnit> text, Visit visit) const {
     search(text, [&](std::size_t at) {
@@ -155,7 +151,7 @@ class PatternSearch {
   }
 
  private:
-  // Goes on where `visit` tells; npos ends the search.
+  // Continues at the position that `visit` returns; npos ends the search.
   template <typename TextUnit, typename Visit>
   void search(std::basic_string_view<TextUnit> text, Visit visit) const {
     std::size_t from = 0;
@@ -167,10 +163,10 @@ class PatternSearch {
     }
     if (text.size() < pattern_.size()) return;
     const std::size_t last = pattern_.size() - 1;
-    const std::size_t starts = text.size() - last;  // where an occurrence may begin
-    for (std::size_t stretch = 0; stretch < starts; stretch += kMatchedUnits) {
-      // Where the first and the last unit of the pattern match, the others are compared.
-      const std::size_t length = std::min(starts - stretch, kMatchedUnits);
+    const std::size_t positions = text.size() - last;  // where an occurrence can begin
+    for (std::size_t stretch = 0; stretch < positions; stretch += kMatchedUnits) {
+      // Candidates: positions where the first and the last unit of the pattern match.
+      const std::size_t length = std::min(positions - stretch, kMatchedUnits);
       uint64_t candidates = matches<TextUnit>(text.substr(stretch, length), pattern_.front());
       if (last > 0) {
         candidates &= matches<TextUnit>(text.substr(stretch + last, length), pattern_.back());
@@ -184,7 +180,7 @@ class PatternSearch {
     }
   }
 
-  // Whether an occurrence is where its first and its last unit are.
+  // Precondition: the first and the last unit of the pattern match at `at`.
   template <typename TextUnit>
   bool isAt(std::basic_string_view<TextUnit> text, std::size_t at) const {
     for (std::size_t i = 1; i + 1 < pattern_.size(); ++i) {

@@ -1,4 +1,4 @@
-// The one place where the platforms' character functions differ.
+// Case mapping by the platform.
 #include "strings/PlatformCase.h"
 
 #include <cstdint>
@@ -11,11 +11,11 @@
 namespace quvard {
 
 wchar_t mapCase(wchar_t unit, LetterCase letterCase) {
-  // The platform's functions are defined for characters alone.
+  // The platform's functions are defined for characters only.
   if (static_cast<uint32_t>(unit) > 0x10FFFF) return unit;
 #ifdef __APPLE__
-  // towlower and towupper are inline functions of a header there, which call these two. To call
-  // them directly leaves no doubt about what the library imports.
+  // towlower and towupper are inline functions there, which call these two. Direct calls fix the names that
+  // the library imports.
   return letterCase == LetterCase::lower ? __tolower(unit) : __toupper(unit);
 #else
   const auto character = static_cast<std::wint_t>(unit);

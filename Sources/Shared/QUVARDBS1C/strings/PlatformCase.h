@@ -7,10 +7,10 @@ namespace quvard {
 
 enum class LetterCase { lower, upper };
 
-// The unit in the given case under the locale of the process; the unit itself where it has none.
+// Converts a code unit under the locale of the process. A unit without such a form stays.
 wchar_t mapCase(wchar_t unit, LetterCase letterCase);
 
-// The same for the first unit of a text, if it has one.
+// Converts the first code unit of a text, if there is one.
 inline void mapFirst(std::span<wchar_t> text, LetterCase letterCase) {
   if (!text.empty()) text.front() = mapCase(text.front(), letterCase);
 }

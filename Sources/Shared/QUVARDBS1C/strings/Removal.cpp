@@ -18,8 +18,7 @@ using quvard::wideText;
 namespace {
 
 // Writes the code units that satisfy `keep` to `out`, which may be the text itself, and returns their
-// number. Each unit is written, and overwritten by the next one if it is not kept: without a branch that
-// the processor cannot predict.
+// number. Writes every unit and overwrites those that do not satisfy it: a branch would be unpredictable.
 std::size_t copyIf(auto text, wchar_t* out, auto keep) {
   const wchar_t* const start = out;
 #ifndef __clang__
@@ -41,154 +40,155 @@ std::size_t copyDigits(std::wstring_view text, wchar_t* out) {
   return copyIf(text, out, [](wchar_t unit) { return unit >= L'0' && unit <= L'9'; });
 }
 
-// Whether the units from `at` to `kept`, of which `chars` has more, and then those from `next` on are
-// `chars`.
-bool isAcross(const wchar_t* at, const wchar_t* kept, const wchar_t* next,
+// The text is `[start, keptEnd)` + gap + `[next, ...)`. Tests whether an occurrence of `chars` begins at `at`
+// and spans the gap. Precondition: keptEnd - at < chars.size().
+bool spansGap(const wchar_t* at, const wchar_t* keptEnd, const wchar_t* next,
               std::wstring_view chars) {
-  const auto before = static_cast<std::size_t>(kept - at);
-  const std::wstring_view after(next, chars.size() - before);
-  // The last unit first: within a run of one unit it is often the only one that differs.
-  return after.back() == chars.back() && std::equal(at, kept, chars.begin()) &&
-         after == chars.substr(before);
+  const auto overlap = static_cast<std::size_t>(keptEnd - at);
+  const std::wstring_view after(next, chars.size() - overlap);
+  // Compares the last unit first: in a run of equal units it is often the only one that differs.
+  return after.back() == chars.back() && std::equal(at, keptEnd, chars.begin()) &&
+         after == chars.substr(overlap);
 }
 
-// The first unit of an occurrence is missing between the units kept and those from `next` on, so
-// another one may reach over this gap. Takes the first unit out of the leftmost occurrence that begins
-// before the gap until there is none, and returns the end of the units kept.
-wchar_t* removeAcrossGap(wchar_t* start, wchar_t* kept, wchar_t* next, std::wstring_view chars) {
-  const auto reach = static_cast<std::ptrdiff_t>(chars.size()) - 1;
-  const wchar_t* const firstNext = next;
-  wchar_t* at = kept - std::min(kept - start, reach);
+// Removes the first unit of the leftmost occurrence that spans the gap until there is none. Returns the new
+// end of the first part.
+wchar_t* removeAcrossGap(wchar_t* start, wchar_t* keptEnd, wchar_t* next, std::wstring_view chars) {
+  const auto maxOverlap = static_cast<std::ptrdiff_t>(chars.size()) - 1;
+  const wchar_t* const oldNext = next;
+  wchar_t* at = keptEnd - std::min(keptEnd - start, maxOverlap);
   for (;;) {
-    if (at == kept) {
-      if (next == firstNext) return kept;
-      *kept++ = *next++;
+    if (at == keptEnd) {
+      if (next == oldNext) return keptEnd;
+      *keptEnd++ = *next++;
     }
-    if (*at != chars.front() || !isAcross(at, kept, next, chars)) {
+    if (*at != chars.front() || !spansGap(at, keptEnd, next, chars)) {
       ++at;
       continue;
     }
-    // The units between the one taken out and the gap go to its other side for now, so that the next
-    // one taken out, further to the left, has not to move them again.
-    next = std::copy_backward(at + 1, kept, next);
-    kept = at;
-    at -= std::min(at - start, reach);
+    // Moves the units between the removed one and the gap behind the gap, so that a removal further left
+    // does not move them again.
+    next = std::copy_backward(at + 1, keptEnd, next);
+    keptEnd = at;
+    at -= std::min(at - start, maxOverlap);
   }
 }
 
-// Takes the first unit out of the leftmost occurrence of `chars` until there is none, and returns the
-// new size. The units after a gap stay as they are, so what is found among them stays found.
+// Removes the first unit of the leftmost occurrence of `chars` until there is none, and returns the new
+// size. Removals do not change the text behind the gap, so the positions found there stay valid.
 std::size_t removeFirstUnits(std::span<wchar_t> text, std::wstring_view chars) {
   wchar_t* const start = text.data();
-  wchar_t* kept = start;
+  wchar_t* keptEnd = start;
   wchar_t* next = start;
-  const std::wstring_view searched(start, text.size());
-  quvard::PatternSearch<wchar_t>(chars).forEachOverlapping(searched, [&](std::size_t at) {
-    kept = moveUnits({next, start + at}, kept);
+  const std::wstring_view input(start, text.size());
+  quvard::PatternSearch<wchar_t>(chars).forEachOverlapping(input, [&](std::size_t at) {
+    keptEnd = moveUnits({next, start + at}, keptEnd);
     next = start + at + 1;
-    kept = removeAcrossGap(start, kept, next, chars);
+    keptEnd = removeAcrossGap(start, keptEnd, next, chars);
   });
-  return static_cast<std::size_t>(moveUnits({next, start + text.size()}, kept) - start);
+  return static_cast<std::size_t>(moveUnits({next, start + text.size()}, keptEnd) - start);
 }
 
-// How far a text matches `chars` at a place: the greatest n for which the n units before that place
-// are the first n of `chars` (Knuth, Morris and Pratt, 1977).
-using Match = uint32_t;
+// KMP state: length of the longest prefix of `chars` that ends here (Knuth, Morris and Pratt, 1977).
+using State = uint32_t;
 
-// The match after one more unit. `borders[n]`, for n from 1 on, is the longest match at the end of the
-// first n units of `chars` that is not all of them.
-Match extendMatch(Match match, wchar_t unit, std::wstring_view chars, const Match* borders) {
-  while (match > 0 && chars[match] != unit) match = borders[match];
-  return match + (chars[match] == unit ? 1 : 0);
+// Returns the state after one more unit. `borders[n]`: length of the longest proper border of
+// `chars[0, n)`, for n >= 1.
+State nextState(State state, wchar_t unit, std::wstring_view chars, const State* borders) {
+  while (state > 0 && chars[state] != unit) state = borders[state];
+  return state + (chars[state] == unit ? 1 : 0);
 }
 
-// Writes the borders of `chars`, which is not empty.
-void findBorders(std::wstring_view chars, Match* borders) {
+// Precondition: `chars` is not empty.
+void findBorders(std::wstring_view chars, State* borders) {
   borders[1] = 0;
   for (std::size_t i = 1; i < chars.size(); ++i) {
-    borders[i + 1] = extendMatch(borders[i], chars[i], chars, borders);
+    borders[i + 1] = nextState(borders[i], chars[i], chars, borders);
   }
 }
 
-// What follows a gap is the tail: `chars` without its first unit. For each match at the gap, this is how
-// many units before the gap are in the leftmost occurrence that reaches over it, or 0. The first r units
-// of `chars` and then the tail begin with `chars` if r is 1, and otherwise just if the tail begins with
-// its own last chars.size() - r units: that number is a border of the tail. A match for which this does
-// not hold has the reach of the next shorter match, its border. `scratch` has room for the borders of
-// the tail.
-void findReaches(std::wstring_view chars, const Match* borders, Match* reaches, Match* scratch) {
+// The tail is `chars` without its first unit. `overlaps[state]`: if the tail follows a text in this state,
+// the number of units before the tail in the leftmost occurrence that begins there, or 0 if there is none.
+//
+// `chars[0, r)` + tail begins with `chars` if the tail begins with its own suffix `chars[r, size)`. This holds
+// for r = 1, and otherwise if size - r is the length of a border of the tail. Where it does not hold for
+// r = state, the border of the state decides.
+// Precondition: `scratch` has a capacity of chars.size().
+void findOverlaps(std::wstring_view chars, const State* borders, State* overlaps, State* scratch) {
   const std::wstring_view tail = chars.substr(1);
-  std::fill_n(reaches, chars.size(), 0);
-  reaches[1] = 1;
+  std::fill_n(overlaps, chars.size(), 0);
+  overlaps[1] = 1;
   findBorders(tail, scratch);
-  for (Match border = scratch[tail.size()]; border > 0; border = scratch[border]) {
-    const std::size_t reach = chars.size() - border;
-    reaches[reach] = static_cast<Match>(reach);
+  for (State border = scratch[tail.size()]; border > 0; border = scratch[border]) {
+    const std::size_t overlap = chars.size() - border;
+    overlaps[overlap] = static_cast<State>(overlap);
   }
-  for (std::size_t match = 1; match < chars.size(); ++match) {
-    if (reaches[match] == 0) reaches[match] = reaches[borders[match]];
+  for (std::size_t state = 1; state < chars.size(); ++state) {
+    if (overlaps[state] == 0) overlaps[state] = overlaps[borders[state]];
   }
 }
 
-// The same as removeFirstUnits for a long `chars`, in linear time. A removal leaves the tail after the
-// gap, whatever was before it, so the match at the gap alone decides where the next occurrence is: over
-// the gap, or further on. If it is further on, the match after the tail is the border of `chars`.
+// Same as removeFirstUnits, in linear time also for a long `chars`. After a removal the tail follows the gap.
+// So the state at the gap alone decides whether an occurrence spans the gap. If none does, the state
+// after the tail is the longest border of `chars`.
 std::size_t removeFirstUnitsOfLong(std::span<wchar_t> text, std::wstring_view chars) {
   const std::size_t size = chars.size();
   if (text.size() < size) return text.size();
   const std::wstring_view tail = chars.substr(1);
 
-  // One run of memory for all, in place for short texts.
-  Match inPlace[3 * (quvard::kUnitsInPlace + 1)];
-  std::unique_ptr<Match[]> onHeap;
-  const std::size_t room = (text.size() + 1) + 2 * (size + 1);
-  if (room > std::size(inPlace)) onHeap.reset(new Match[room]);
-  Match* const matches = onHeap ? onHeap.get() : inPlace;  // after each number of units kept
-  Match* const borders = matches + text.size() + 1;
-  Match* const reaches = borders + size + 1;
+  // One array for all, on the stack for short texts.
+  State inPlace[3 * (quvard::kUnitsInPlace + 1)];
+  std::unique_ptr<State[]> onHeap;
+  const std::size_t capacity = (text.size() + 1) + 2 * (size + 1);
+  if (capacity > std::size(inPlace)) onHeap.reset(new State[capacity]);
+  State* const states = onHeap ? onHeap.get() : inPlace;  // states[n]: after text[0, n)
+  State* const borders = states + text.size() + 1;
+  State* const overlaps = borders + size + 1;
   findBorders(chars, borders);
-  findReaches(chars, borders, reaches, matches);
-  matches[0] = 0;
+  findOverlaps(chars, borders, overlaps, states);
+  states[0] = 0;
 
+  // The text is `[0, kept)` + gap + `[next, ...)`.
   std::size_t kept = 0;
-  std::size_t next = 0;  // start of what is not read
-  // The tail that the last removal left. From `unwritten` to its end, its units and matches are only
-  // written when they are needed.
+  std::size_t next = 0;
+  // `[tailStart, tailEnd)` is the tail of the last removal. Its units and states in `[tailWritten, tailEnd)`
+  // are not written until they are needed.
   std::size_t tailStart = 0;
-  std::size_t unwritten = 0;
+  std::size_t tailWritten = 0;
   std::size_t tailEnd = 0;
   const auto writeTail = [&](std::size_t end) {
-    for (; unwritten < std::min(end, tailEnd); ++unwritten) {
-      text[unwritten] = tail[unwritten - tailStart];
-      matches[unwritten + 1] = extendMatch(matches[unwritten], text[unwritten], chars, borders);
+    for (; tailWritten < std::min(end, tailEnd); ++tailWritten) {
+      text[tailWritten] = tail[tailWritten - tailStart];
+      states[tailWritten + 1] = nextState(states[tailWritten], text[tailWritten], chars, borders);
     }
   };
 
-  Match match = 0;
+  State state = 0;
   while (next < text.size()) {
     text[kept] = text[next++];
-    match = extendMatch(match, text[kept], chars, borders);
-    matches[++kept] = match;
-    if (match < size) continue;
+    state = nextState(state, text[kept], chars, borders);
+    states[++kept] = state;
+    if (state < size) continue;
 
     std::size_t gap = kept - size;
     writeTail(gap);
-    while (const Match reach = reaches[matches[gap]]) {
-      gap -= reach;
-      // The units between the two gaps begin the tail now, and as many at its end are read again.
-      const std::wstring_view again = tail.substr(size - reach);
-      next -= again.size();
-      moveUnits(again, text.data() + next);
+    while (const State overlap = overlaps[states[gap]]) {
+      gap -= overlap;
+      // The overlap without its first unit becomes the start of the tail. As many units at the end of the old
+      // tail are read again.
+      const std::wstring_view rest = tail.substr(size - overlap);
+      next -= rest.size();
+      moveUnits(rest, text.data() + next);
     }
-    tailStart = unwritten = gap;
+    tailStart = tailWritten = gap;
     tailEnd = kept = gap + tail.size();
-    match = borders[size];
+    state = borders[size];
   }
   writeTail(kept);
   return kept;
 }
 
-// Returns the new size.
+// Applies RemoveChar in place and returns the new size.
 std::size_t removeChars(std::span<wchar_t> text, std::wstring_view chars) {
   if (chars.empty()) return text.size();
   if (chars.size() == 1) {

@@ -10,13 +10,13 @@
 
 namespace quvard {
 
-// Replaces every occurrence of a pattern in texts.
+// Replaces every occurrence of a pattern.
 template <typename Unit>
 class Replacer {
  public:
   using View = std::basic_string_view<Unit>;
 
-  // Pattern and replacement outlive the replacer.
+  // Pattern and replacement must outlive the Replacer.
   Replacer(View pattern, View replacement) : search_(pattern), replacement_(replacement) {}
 
   // Appends the result for `text` to `output`.
@@ -25,7 +25,7 @@ class Replacer {
     output.append(text.substr(appendUpToLastOccurrence(text, output)));
   }
 
-  // The same, but only up to the last occurrence, and returns the position after it.
+  // Same, but only up to the last occurrence. Returns the position after it.
   template <typename TextUnit>
   std::size_t appendUpToLastOccurrence(std::basic_string_view<TextUnit> text, auto& output) const {
     std::size_t next = 0;
@@ -44,14 +44,14 @@ class Replacer {
   View replacement_;
 };
 
-// An output that replaces in the text appended to it, piece by piece, and appends the result to
-// another output. So the text itself is never in memory as a whole.
+// An output that replaces in the text appended to it, and appends the result to another output. Only a
+// window of the text is in memory.
 template <typename Unit>
 class ReplacingOutput {
  public:
   ReplacingOutput(const Replacer<Unit>& replacer, TextBuffer& output)
       : replacer_(replacer), output_(output) {
-    // At least half of a full window is passed on, so that the time is linear.
+    // flush() removes at least half of a full window, so that the time is linear.
     window_.reserve(2 * replacer.patternSize());
   }
 
@@ -59,21 +59,22 @@ class ReplacingOutput {
   void append(std::basic_string_view<TextUnit> text) {
     while (!text.empty()) {
       if (window_.size() == window_.capacity())
-        passOn(std::max<std::size_t>(replacer_.patternSize(), 1) - 1);
+        flush(std::max<std::size_t>(replacer_.patternSize(), 1) - 1);
       const std::size_t count = std::min(text.size(), window_.capacity() - window_.size());
       window_.append(text.substr(0, count));
       text.remove_prefix(count);
     }
   }
 
-  void finish() { passOn(0); }
+  void finish() { flush(0); }
 
  private:
-  // Passes on the window except for its last `held` code units, in which an occurrence may begin.
-  void passOn(std::size_t held) {
+  // Replaces in the window and removes it, except its last `rest` code units, where an occurrence that is not
+  // complete may begin.
+  void flush(std::size_t rest) {
     const std::wstring_view window = window_;
     const std::size_t next = replacer_.appendUpToLastOccurrence(window, output_);
-    const std::size_t end = std::max(next, window.size() - std::min(held, window.size()));
+    const std::size_t end = std::max(next, window.size() - std::min(rest, window.size()));
     output_.append(window.substr(next, end - next));
     window_.erasePrefix(end);
   }

@@ -14,7 +14,7 @@ using quvard::wideText;
 
 namespace {
 
-// The units of a short text. Its low bytes rule out most units of another text at once.
+// The set of code units of a short text. A table of low bytes excludes most other units quickly.
 class FewUnits {
  public:
   explicit FewUnits(std::wstring_view units) : units_(units) {
@@ -30,29 +30,29 @@ class FewUnits {
   bool lowBytes_[0x100] = {};
 };
 
-// The units of a text of any length.
+// The set of code units of a text of any length: a bit set up to 0xFFFF, a sorted array above.
 class ManyUnits {
  public:
-  // Reorders the units, which outlive the set.
+  // Reorders the units, which must outlive the set.
   explicit ManyUnits(std::span<wchar_t> units)
-      : beyond_(std::partition(units.begin(), units.end(), isNarrow), units.end()) {
-    for (const wchar_t unit : units.first(units.size() - beyond_.size())) {
+      : wide_(std::partition(units.begin(), units.end(), isNarrow), units.end()) {
+    for (const wchar_t unit : units.first(units.size() - wide_.size())) {
       narrow_->set(static_cast<std::size_t>(unit));
     }
-    std::sort(beyond_.begin(), beyond_.end());
+    std::sort(wide_.begin(), wide_.end());
   }
 
   bool contains(wchar_t unit) const {
     return isNarrow(unit) ? narrow_->test(static_cast<std::size_t>(unit))
-                          : std::binary_search(beyond_.begin(), beyond_.end(), unit);
+                          : std::binary_search(wide_.begin(), wide_.end(), unit);
   }
 
  private:
   static bool isNarrow(wchar_t unit) { return static_cast<uint32_t>(unit) <= 0xFFFF; }
 
-  // On the heap: 8 KiB are too much for the stack of some threads.
+  // On the heap, because threads can have small stacks.
   std::unique_ptr<std::bitset<0x10000>> narrow_ = std::make_unique<std::bitset<0x10000>>();
-  std::span<wchar_t> beyond_;  // sorted
+  std::span<wchar_t> wide_;
 };
 
 template <typename Set>

@@ -11,14 +11,15 @@ using quvard::wideText;
 
 namespace {
 
-// The units at the 1-based positions `first` to `last`, both within the text where any are between.
+// Returns the code units at the positions [first, last], counted from 1. Precondition: both positions are
+// within the text, or last < first.
 std::wstring_view slice(std::wstring_view text, int64_t first, int64_t last) {
   if (last < first) return {};
   return text.substr(static_cast<std::size_t>(first - 1),
                      static_cast<std::size_t>(last - first + 1));
 }
 
-// A negative position counts as beyond every end.
+// A negative position converts to one beyond every text.
 bool isWithin(std::wstring_view text, int32_t position) {
   return static_cast<uint32_t>(position) <= text.size();
 }
@@ -33,7 +34,7 @@ std::wstring_view between(std::wstring_view text, int32_t from, int32_t to) {
   return slice(text, int64_t{from} + 1, int64_t{to} - 1);
 }
 
-// Two delimiters of one unit each will do, and so will any two of which one is empty.
+// Each delimiter has one code unit, or at least one delimiter is empty.
 bool areDelimiters(std::wstring_view opening, std::wstring_view closing) {
   return opening.empty() || closing.empty() || (opening.size() == 1 && closing.size() == 1);
 }
@@ -54,9 +55,9 @@ std::wstring_view fromChrToChr(std::wstring_view text, std::wstring_view opening
 std::wstring_view betweenChrAndChr(std::wstring_view text, std::wstring_view opening,
                                    std::wstring_view closing) {
   if (!areDelimiters(opening, closing)) return {};
-  const std::size_t opened = find(text, opening);
-  if (opened == text.npos || opened == text.size()) return {};
-  const std::wstring_view rest = text.substr(opened + 1);
+  const std::size_t start = find(text, opening);
+  if (start == text.npos || start == text.size()) return {};
+  const std::wstring_view rest = text.substr(start + 1);
   const std::size_t length = find(rest, closing);
   if (length == rest.npos) return {};
   return rest.substr(0, length);

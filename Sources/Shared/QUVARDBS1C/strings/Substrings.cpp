@@ -9,7 +9,7 @@ using quvard::wideText;
 
 namespace {
 
-// A negative count is widened with its sign and read as unsigned, and so is above every length.
+// A negative n converts to a huge size_t, so all of s is taken.
 std::size_t countWithin(std::wstring_view s, int32_t n) {
   return std::min(static_cast<std::size_t>(n), s.size());
 }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr wchar_t kBlank = L' ';
 
-// Of kMatchedUnits units.
+// Precondition: stretch.size() == kMatchedUnits.
 bool isBlank(std::wstring_view stretch) { return ~quvard::matches(stretch, kBlank) == 0; }
 
 std::wstring_view trimLeft(std::wstring_view s) {
@@ -25,7 +25,7 @@ std::wstring_view trimLeft(std::wstring_view s) {
   return s.substr(std::min(s.find_first_not_of(kBlank), s.size()));
 }
 
-// find_last_not_of gives npos for a text of blanks, and npos + 1 is 0.
+// For a text of blanks find_last_not_of returns npos, and npos + 1 is 0.
 std::wstring_view trimRight(std::wstring_view s) {
   while (s.size() >= kMatchedUnits && isBlank(s.substr(s.size() - kMatchedUnits))) {
     s.remove_suffix(kMatchedUnits);

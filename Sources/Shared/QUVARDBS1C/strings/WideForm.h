@@ -7,7 +7,7 @@
 
 namespace quvard {
 
-// Reduces `text` to `slice`, a view of a part of it.
+// Reduces `text` to `slice`, which is a part of it.
 inline void cutTo(std::wstring& text, std::wstring_view slice) {
   if (slice.empty()) return text.clear();
   const auto start = static_cast<std::size_t>(slice.data() - text.data());
