@@ -22,11 +22,17 @@ namespace quvard {
 /// An owner of a host string, UTF-8, and calls of host routines.
 /// @{
 
-/// Returns @p flag as the host's Boolean, -1 or 0.
+/// Converts a Boolean for the host.
+///
+/// @param flag  Boolean
+/// @return      -1 for true, otherwise 0
 constexpr HostBool hostBool(bool flag) noexcept { return flag ? -1 : 0; }
 
 /// Converts UTF-8 to UTF-16. Each maximal subpart of an ill-formed sequence becomes U+FFFD (The Unicode
 /// Standard, 3.9). Overlong forms, surrogates and values above U+10FFFF are ill-formed.
+///
+/// @param utf8  text in UTF-8
+/// @return      text in UTF-16
 inline std::u16string utf16FromUtf8(std::string_view utf8) {
   std::u16string utf16;
   for (std::size_t i = 0; i < utf8.size();) {
@@ -53,6 +59,9 @@ inline std::u16string utf16FromUtf8(std::string_view utf8) {
 }
 
 /// Converts UTF-16 to UTF-8. Each unpaired surrogate becomes U+FFFD.
+///
+/// @param utf16  text in UTF-16
+/// @return       text in UTF-8
 inline std::string utf8FromUtf16(std::u16string_view utf16) {
   std::string utf8;
   for (std::size_t i = 0; i < utf16.size(); ++i) {
@@ -82,37 +91,47 @@ using IfHandle =
 class HostString {
  public:
   HostString() noexcept = default;  ///< Holds the null handle.
-  /// Makes a host string of @p text up to its first zero code unit, which ends every host string.
+  /// Makes a host string.
+  /// @param text  text in UTF-16; copied up to its first zero code unit, which ends every host string
   /// @throws std::bad_alloc
   explicit HostString(std::u16string_view text)
       : handle_(SysAllocString16(std::u16string(text).c_str())) {}
   /// Deleted: call adopt() to own a handle, or pass a view to copy its text.
   template <typename Handle, detail::IfHandle<Handle> = 0>
   HostString(Handle) = delete;
-  /// Takes the host string of @p other and leaves null there.
+  /// Takes the host string of another owner.
+  /// @param other  an owner, which then holds the null handle
   HostString(HostString&& other) noexcept : handle_(other.detach()) {}
-  /// Releases the host string of this object, then takes that of @p other, which may be this object.
+  /// Releases the host string of this object and takes that of another owner.
+  /// @param other  an owner, which then holds the null handle; this object: nothing changes
+  /// @return       this object
   HostString& operator=(HostString&& other) noexcept {
     releaseBSTR(std::exchange(handle_, other.detach()));
     return *this;
   }
   ~HostString() { releaseBSTR(handle_); }
 
-  /// Returns an owner of @p handle, which a host routine or a service made, or which is null.
+  /// Makes an owner of a handle.
+  /// @param handle  result of a host routine or of a service, or null
+  /// @return        owner of @p handle
   static HostString adopt(BSTR handle) noexcept {
     HostString result;
     result.handle_ = handle;
     return result;
   }
-  /// Returns the handle and leaves null here. The caller then owns the host string.
+  /// Gives up the host string. This object then holds the null handle.
+  /// @return  handle, which the caller releases
   [[nodiscard]] BSTR detach() noexcept { return std::exchange(handle_, nullptr); }
-  /// Returns the handle, which this object still owns, as an argument of a routine.
+  /// Returns the handle, as an argument of a routine.
+  /// @return  handle, which this object still owns
   BSTR handle() const noexcept { return handle_; }
-  /// Returns the text, empty for the null handle. Valid while this object owns the host string.
+  /// Returns the text in UTF-16.
+  /// @return  view, valid while this object owns the host string; empty for the null handle
   std::u16string_view view() const noexcept {
     return handle_ == nullptr ? std::u16string_view() : std::u16string_view(handle_);
   }
-  /// Returns the text as UTF-8, as utf8FromUtf16() converts it.
+  /// Returns the text in UTF-8.
+  /// @return  result of utf8FromUtf16()
   std::string utf8() const { return utf8FromUtf16(view()); }
 
  private:
@@ -175,7 +194,12 @@ HostString call(BSTR (*routine)(Parameters...), Arguments&&... arguments) {
   }(detail::convert<Parameters>(std::forward<Arguments>(arguments))...);
 }
 
-/// Calls a routine that returns an integer or a `HostBool`; for arguments see the overload above.
+/// Calls a routine that returns an integer or a `HostBool`.
+///
+/// @param routine    host routine
+/// @param arguments  as in the overload for host strings
+/// @return           result of @p routine
+/// @throws std::bad_alloc
 template <typename... Parameters, typename... Arguments>
 int32_t call(int32_t (*routine)(Parameters...), Arguments&&... arguments) {
   return routine(detail::convert<Parameters>(std::forward<Arguments>(arguments))...);
